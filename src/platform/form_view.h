@@ -1,0 +1,73 @@
+#pragma once
+// The one generic window: it builds real widgets from a form's design table
+// (15 twips to a pixel; Qt scales for high-dpi screens), paints the canvas
+// image behind them, and routes every widget event to the form's handlers
+// through the guard. It also keeps the widgets in step when code changes a
+// control.
+
+#include <QDialog>
+#include <QHash>
+#include <QPointer>
+#include <memory>
+
+#include "shell/controls.h"
+#include "shell/form.h"
+
+class QEventLoop;
+class QMouseEvent;
+class QMenuBar;
+class QTimer;
+
+namespace gp {
+
+class CanvasDevice;
+class FormSet;
+
+constexpr double kTwipsPerPixel = 15.0;
+
+class FormView : public QDialog, public ControlObserver {
+    Q_OBJECT
+public:
+    FormView(FormSet& app, Form& form);
+    ~FormView() override;
+
+    Form& form() { return form_; }
+    void controlChanged(Control& control, ControlProperty property) override;
+    // Blocks in a local event loop until the form is hidden.
+    void runModal();
+    void quitModal();
+    // Repaints the canvas after a handler has drawn.
+    void refreshCanvas();
+    QWidget* clientArea() const;
+    // The form is being unloaded: stop timers and let go of it.
+    void detach();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void reject() override {}  // Esc does not close a form
+
+private:
+    class Client;
+    void build();
+    QWidget* buildControl(const ControlDesign& d, Control& c, QWidget* parent);
+    void buildMenus();
+    void dispatch(const std::string& control, Event event, const EventArgs& args = {});
+    QPoint toPixels(int twipsX, int twipsY) const;
+    void syncTimer(TimerControl& t);
+    void canvasMouse(QMouseEvent* e, Event event);
+
+    FormSet& app_;
+    Form& form_;
+    Client* client_ = nullptr;
+    QMenuBar* menuBar_ = nullptr;
+    std::unique_ptr<CanvasDevice> canvas_;
+    QHash<Control*, QWidget*> widgets_;
+    QHash<QObject*, Control*> controlOf_;
+    QHash<Control*, QTimer*> timers_;
+    QEventLoop* loop_ = nullptr;
+    bool detached_ = false;
+};
+
+} // namespace gp

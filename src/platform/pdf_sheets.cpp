@@ -1,0 +1,46 @@
+#include "platform/pdf_sheets.h"
+
+#include <QDir>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace gp {
+
+namespace {
+constexpr double kMargin = 360.0;  // a quarter inch, in twips
+}
+
+void paintSheet(QPagedPaintDevice& device, const Page& page, Single printableWidth,
+                Single printableHeight, double margin) {
+    QPainter painter;
+    if (!painter.begin(&device)) return;
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.translate(margin, margin);
+    // What lies off the printable area is clipped, as on a printer.
+    painter.setClipRect(QRectF(0, 0, printableWidth, printableHeight));
+    renderPage(painter, page);
+    painter.end();
+}
+
+bool writeSheetPdf(const QString& path, const Page& page, Single printableWidth, Single printableHeight) {
+    QPdfWriter writer(path);
+    writer.setResolution(1440);
+    writer.setCreator("gridpages");
+    const QSizeF inches((printableWidth + 2 * kMargin) / 1440.0, (printableHeight + 2 * kMargin) / 1440.0);
+    writer.setPageLayout(QPageLayout(QPageSize(inches, QPageSize::Inch, QString(), QPageSize::ExactMatch),
+                                     QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
+    paintSheet(writer, page, printableWidth, printableHeight, kMargin);
+    return true;
+}
+
+PdfSheetSink::PdfSheetSink(QString directory) : dir_(std::move(directory)) { QDir().mkpath(dir_); }
+
+void PdfSheetSink::emitPage(const Page& page, Single printableWidth, Single printableHeight) {
+    ++count_;
+    last_ = QDir(dir_).filePath(QString("sheet-%1.pdf").arg(count_, 4, 10, QChar('0')));
+    writeSheetPdf(last_, page, printableWidth, printableHeight);
+}
+
+} // namespace gp

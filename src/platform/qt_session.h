@@ -1,0 +1,50 @@
+#pragma once
+// The windowed session: real windows, modal loops, message and input boxes,
+// and the system printer.
+
+#include <QHash>
+#include <QPointer>
+#include <memory>
+
+#include "platform/form_view.h"
+#include "platform/page_buffer.h"
+#include "platform/qt_drawing.h"
+#include "platform/system_printer.h"
+#include "shell/form_set.h"
+
+namespace gp {
+
+class QtDialogs : public Dialogs {
+public:
+    int MsgBox(const std::string& prompt, int buttons, const std::string& title) override;
+    std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText,
+                         std::optional<int> x, std::optional<int> y) override;
+    void showFault(const std::string& message) override;
+    void formMissing(const std::string& formName) override;
+};
+
+class QtHost : public FormHost {
+public:
+    void setApp(FormSet* app) { app_ = app; }
+    void formLoaded(Form& form) override;
+    void formShown(Form& form, bool modal) override;
+    void formHidden(Form& form) override;
+    void formUnloading(Form& form) override;
+    void runModal(Form& form) override;
+    void endProgram() override;
+
+private:
+    FormSet* app_ = nullptr;
+    QHash<Form*, QPointer<FormView>> views_;
+    QtTextMeasurer measurer_;
+};
+
+class SystemClock : public Clock {
+public:
+    Single Timer() const override;
+};
+
+// Runs the program with its menu until the menu's Exit. Returns the exit code.
+int runWindowed(void (*registerForms)(FormSet&));
+
+} // namespace gp

@@ -1,0 +1,228 @@
+#include "platform/trace_writer.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace gp {
+
+namespace {
+constexpr size_t kFlushAt = 1 << 16;
+}
+
+TraceWriter::TraceWriter(std::FILE* out) : out_(out) { buf_.reserve(kFlushAt + 1024); }
+
+TraceWriter::~TraceWriter() { flush(); }
+
+void TraceWriter::flush() {
+    if (!out_) return;
+    if (!buf_.empty()) std::fwrite(buf_.data(), 1, buf_.size(), out_);
+    buf_.clear();
+    std::fflush(out_);
+}
+
+void TraceWriter::appendNumber(std::string& out, Single v) {
+    if (!std::isfinite(v)) {  // not JSON; the surface never passes one on
+        out += "null";
+        return;
+    }
+    char tmp[32];
+    auto res = std::to_chars(tmp, tmp + sizeof tmp, v);
+    out.append(tmp, res.ptr);
+}
+
+void TraceWriter::appendString(std::string& out, const std::string& s) {
+    out += '"';
+    for (unsigned char c : s) {
+        switch (c) {
+        case '"': out += "\\\""; break;
+        case '\\': out += "\\\\"; break;
+        case '\n': out += "\\n"; break;
+        case '\r': out += "\\r"; break;
+        case '\t': out += "\\t"; break;
+        case '\b': out += "\\b"; break;
+        case '\f': out += "\\f"; break;
+        default:
+            if (c < 0x20) {
+                char esc[8];
+                std::snprintf(esc, sizeof esc, "\\u%04x", c);
+                out += esc;
+            } else {
+                out += static_cast<char>(c);
+            }
+        }
+    }
+    out += '"';
+}
+
+void TraceWriter::begin(const std::string& surface, const char* op) {
+    buf_ += "{\"s\":";
+    appendString(buf_, surface);
+    buf_ += ",\"op\":\"";
+    buf_ += op;
+    buf_ += '"';
+}
+
+void TraceWriter::beginOp(const char* op) {
+    buf_ += "{\"op\":\"";
+    buf_ += op;
+    buf_ += '"';
+}
+
+void TraceWriter::key(const char* name) {
+    buf_ += ",\"";
+    buf_ += name;
+    buf_ += "\":";
+}
+
+void TraceWriter::num(const char* name, Single v) {
+    key(name);
+    appendNumber(buf_, v);
+}
+
+void TraceWriter::integer(const char* name, long v) {
+    key(name);
+    buf_ += std::to_string(v);
+}
+
+void TraceWriter::str(const char* name, const std::string& v) {
+    key(name);
+    appendString(buf_, v);
+}
+
+void TraceWriter::end() {
+    buf_ += "}\n";
+    if (buf_.size() >= kFlushAt && out_) {
+        std::fwrite(buf_.data(), 1, buf_.size(), out_);
+        buf_.clear();
+    }
+    if (!out_) buf_.clear();
+}
+
+void TraceWriter::line(const std::string& surface, const Stroke& s) {
+    if (!out_) return;
+    begin(surface, "line");
+    num("x1", s.x1);
+    num("y1", s.y1);
+    num("x2", s.x2);
+    num("y2", s.y2);
+    integer("style", s.style);
+    integer("width", s.width);
+    integer("color", s.color);
+    end();
+}
+
+void TraceWriter::pset(const std::string& surface, Single x, Single y, int width, long color) {
+    if (!out_) return;
+    begin(surface, "pset");
+    num("x", x);
+    num("y", y);
+    integer("width", width);
+    integer("color", color);
+    end();
+}
+
+void TraceWriter::print(const std::string& surface, Single x, Single y, const std::string& text,
+                        const FontSpec& font) {
+    if (!out_) return;
+    begin(surface, "print");
+    num("x", x);
+    num("y", y);
+    str("text", text);
+    str("font", font.name);
+    num("size", static_cast<Single>(font.size));
+    end();
+}
+
+void TraceWriter::cls(const std::string& surface) {
+    if (!out_) return;
+    begin(surface, "cls");
+    end();
+}
+
+void TraceWriter::enddoc(const std::string& surface) {
+    if (!out_) return;
+    begin(surface, "enddoc");
+    end();
+}
+
+void TraceWriter::orientation(const std::string& surface, int value) {
+    if (!out_) return;
+    begin(surface, "orientation");
+    integer("value", value);
+    end();
+}
+
+void TraceWriter::msgbox(const std::string& title, const std::string& prompt, int buttons, int answer) {
+    if (!out_) return;
+    beginOp("msgbox");
+    str("title", title);
+    str("prompt", prompt);
+    integer("buttons", buttons);
+    integer("answer", answer);
+    end();
+}
+
+void TraceWriter::inputbox(const std::string& title, const std::string& prompt,
+                           const std::string& defaultText, const std::string& answer) {
+    if (!out_) return;
+    beginOp("inputbox");
+    str("title", title);
+    str("prompt", prompt);
+    str("default", defaultText);
+    str("answer", answer);
+    end();
+}
+
+void TraceWriter::valueText(const std::string& control, const std::string& value) {
+    if (!out_) return;
+    beginOp("value");
+    str("control", control);
+    str("value", value);
+    end();
+}
+
+void TraceWriter::valueNumber(const std::string& control, long value) {
+    if (!out_) return;
+    beginOp("value");
+    str("control", control);
+    integer("value", value);
+    end();
+}
+
+void TraceWriter::valueBool(const std::string& control, bool value) {
+    if (!out_) return;
+    beginOp("value");
+    str("control", control);
+    key("value");
+    buf_ += value ? "true" : "false";
+    end();
+}
+
+void TraceWriter::valueTimer(const std::string& control, bool enabled, int interval) {
+    if (!out_) return;
+    beginOp("value");
+    str("control", control);
+    key("value");
+    buf_ += "{\"enabled\":";
+    buf_ += enabled ? "true" : "false";
+    buf_ += ",\"interval\":" + std::to_string(interval) + "}";
+    end();
+}
+
+void TraceWriter::visible(const std::string& control, bool value) {
+    if (!out_) return;
+    beginOp("visible");
+    str("control", control);
+    key("value");
+    buf_ += value ? "true" : "false";
+    end();
+}
+
+void TraceWriter::error(const std::string& message) {
+    if (!out_) return;
+    beginOp("error");
+    str("message", message);
+    end();
+}
+
+} // namespace gp

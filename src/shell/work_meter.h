@@ -1,0 +1,33 @@
+#pragma once
+// Counts the work of one event handler: every drawing call and every turn of
+// a loop that might not end. Past the limit the handler is stopped with a
+// WorkLimit fault, so no value typed into a box can freeze the window.
+
+#include <cstdint>
+
+#include "shell/faults.h"
+
+namespace gp {
+
+class WorkMeter {
+public:
+    // Far above the heaviest real page (about a million strokes for the
+    // stick-curve fill), far below a frozen window.
+    static constexpr std::uint64_t kDefaultLimit = 6'000'000;
+
+    void reset() { used_ = 0; }
+    void restore(std::uint64_t used) { used_ = used; }
+    void setLimit(std::uint64_t limit) { limit_ = limit; }
+    std::uint64_t used() const { return used_; }
+
+    void tick(std::uint64_t amount = 1) {
+        used_ += amount;
+        if (used_ > limit_) throwWorkLimit();
+    }
+
+private:
+    std::uint64_t used_ = 0;
+    std::uint64_t limit_ = kDefaultLimit;
+};
+
+} // namespace gp
