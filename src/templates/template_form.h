@@ -1,0 +1,101 @@
+#pragma once
+// The window that the five fold-up template forms share: a side length box,
+// "Print It", "E&xit", three labels and an Info menu. The frame owns when and
+// how a figure is drawn (preview at 800 units to the inch from x = 3000 on the
+// form's canvas, print at 1440 to the inch on the Printer with one EndDoc);
+// each form supplies only its description and one drawing procedure.
+//
+// What a figure form implements:
+//
+//   void DrawFigure(DrawingSurface& surface, Integer side, bool preview);
+//
+//   Called with DrawWidth already 1 and `side` already worked out (> 0, in
+//   the Integer range). It reads surfaceW / surfaceH from `surface` itself,
+//   works out its derived lengths, runs its tiling loops and draws the copies.
+//   `preview` is true on the form's canvas (tiling starts at kPreviewLeft)
+//   and false on the Printer. It must not call EndDoc: the frame does that
+//   once after it returns. Before drawing it calls refuse() for a side whose
+//   derived quantities would leave the Integer range, and limitCopies() with
+//   its estimate of the copies, so that nothing is drawn at all in either case.
+
+#include <string>
+#include <vector>
+
+#include "shell/form.h"
+
+namespace gp {
+
+struct InfoBox {
+    std::string title;
+    std::string prompt;
+};
+
+struct TemplateDescription {
+    std::string name;
+    std::string caption;
+    int clientWidth = 9405;
+    int clientHeight = 8400;
+    long backColor = 0;
+    std::string defaultLength = "1";
+    std::string infoCaption = "&Info";
+    bool hasQueryUnload = false;
+    // The three labels, in tab order; the first is the side length label,
+    // which stands above txtLeng.
+    std::vector<ControlDesign> labels;
+    // Places of the frame's own controls, in twips.
+    int txtLengLeft = 1560, txtLengTop = 240, txtLengWidth = 975, txtLengHeight = 495;
+    int printLeft = 240, printTop = 1080, printWidth = 2055, printHeight = 855;
+    int exitLeft = 480, exitTop = 2160, exitWidth = 1455, exitHeight = 735;
+    std::vector<InfoBox> infoBoxes;
+    // txtLeng_Change redraws for 0 < v < rangeTop, or v <= rangeTop when
+    // rangeTopIncluded.
+    Double rangeTop = 4;
+    bool rangeTopIncluded = false;
+    // A canvas scale of the form's own (0: twips).
+    Single scaleWidth = 0;
+    Single scaleHeight = 0;
+};
+
+class TemplateForm : public Form {
+public:
+    TemplateForm(FormSet& app, const TemplateDescription& description);
+
+    static FormDesign BuildDesign(const TemplateDescription& description);
+
+    void Form_Activate();
+    void txtLeng_Change();
+    void cmdPrintIt_Click();
+    void mnuInfo_Click();
+    void cmdExit_Click();
+    void Form_QueryUnload();
+
+    // Whether txtLeng_Change redraws for the value v.
+    bool InRange(Double v) const;
+
+    // Where the preview's tiling begins, right of the controls.
+    static constexpr int kPreviewLeft = 3000;
+
+protected:
+    virtual void DrawFigure(DrawingSurface& surface, Integer side, bool preview) = 0;
+
+    // Stops the routine before anything is drawn: silently on the canvas
+    // (the preview is simply missing, as for any side out of range), with
+    // the message on the Printer, where the user pressed "Print It" and
+    // must learn why no sheet came.
+    [[noreturn]] void refuse(bool preview, const std::string& message);
+    // Stops before drawing when the copies times their strokes would swamp
+    // the surface: a side so small that a sheet needs a million copies.
+    void limitCopies(Double copies, int strokesPerCopy);
+
+    TextBox& txtLeng;
+
+private:
+    void PreviewRoutine();
+    void PrintRoutine();
+    // Int(Val(txtLeng) * scale) as an Integer side, or refuse().
+    Integer SideFromText(Double scale, bool preview);
+
+    TemplateDescription description_;
+};
+
+} // namespace gp
