@@ -113,4 +113,34 @@ void TemplateForm::limitCopies(Double copies, int strokesPerCopy) {
     if (copies * strokesPerCopy > Double(WorkMeter::kDefaultLimit)) throwWorkLimit();
 }
 
+void TemplateForm::checkTiling(bool preview, Integer side, int strokesPerCopy,
+                               const std::function<void(TileSink&)>& tiling) {
+    class Counter : public TileSink {
+    public:
+        explicit Counter(int strokes) : strokes_(strokes) {}
+        void copy(Integer, Integer) override { charge(strokes_); }
+        void row() override { charge(1); }
+
+    private:
+        void charge(int amount) {
+            used_ += amount;
+            if (used_ > Double(WorkMeter::kDefaultLimit)) throwWorkLimit();
+        }
+        int strokes_;
+        Double used_ = 0;
+    };
+    Counter counter(strokesPerCopy);
+    try {
+        tiling(counter);
+    } catch (const Fault& f) {
+        if (f.kind() != FaultKind::Overflow) throw;
+        // Small sides fail here only by a tiling that never moves on.
+        if (side < 100)
+            refuse(preview, "Nothing was printed: the side length is too small to lay out "
+                            "the template. Please type a larger side length in inches.");
+        refuse(preview, "Nothing was printed: the side length is too large for a sheet. "
+                        "Please type a smaller side length in inches.");
+    }
+}
+
 } // namespace gp

@@ -17,7 +17,10 @@
 //   once after it returns. Before drawing it calls refuse() for a side whose
 //   derived quantities would leave the Integer range, and limitCopies() with
 //   its estimate of the copies, so that nothing is drawn at all in either case.
+//   checkTiling() does both at once for a figure whose tiling loops are
+//   written over a TileSink.
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -28,6 +31,17 @@ namespace gp {
 struct InfoBox {
     std::string title;
     std::string prompt;
+};
+
+// Where a tiling loop hands each copy: the drawing of the copy, or, in the
+// dry run of checkTiling, only a count.
+class TileSink {
+public:
+    virtual ~TileSink() = default;
+    virtual void copy(Integer tileX, Integer tileY) = 0;
+    // Called once per turn of the row loop, so that rows with no copies
+    // are counted as work too.
+    virtual void row() {}
 };
 
 struct TemplateDescription {
@@ -86,6 +100,13 @@ protected:
     // Stops before drawing when the copies times their strokes would swamp
     // the surface: a side so small that a sheet needs a million copies.
     void limitCopies(Double copies, int strokesPerCopy);
+    // Runs a figure's tiling loops once without drawing: the loops' own
+    // Integer arithmetic faults where a position leaves the Integer range,
+    // and the copies are counted, so that a side whose sheet cannot be laid
+    // out (or needs millions of strokes) is refused before the first stroke.
+    // `tiling` must run the very loops that the drawing runs.
+    void checkTiling(bool preview, Integer side, int strokesPerCopy,
+                     const std::function<void(TileSink&)>& tiling);
 
     TextBox& txtLeng;
 
