@@ -130,8 +130,12 @@ void TemplateForm::checkTiling(bool preview, Integer side, int strokesPerCopy,
         Double used_ = 0;
     };
     Counter counter(strokesPerCopy);
+    checkRange(preview, side, [&] { tiling(counter); });
+}
+
+void TemplateForm::checkRange(bool preview, Integer side, const std::function<void()>& work) {
     try {
-        tiling(counter);
+        work();
     } catch (const Fault& f) {
         if (f.kind() != FaultKind::Overflow) throw;
         // Small sides fail here only by a tiling that never moves on.

@@ -107,6 +107,9 @@ protected:
     // `tiling` must run the very loops that the drawing runs.
     void checkTiling(bool preview, Integer side, int strokesPerCopy,
                      const std::function<void(TileSink&)>& tiling);
+    // Runs `work` (derived quantities stored in Integers) and turns an
+    // Integer overflow in it into refuse(), with a message that fits `side`.
+    void checkRange(bool preview, Integer side, const std::function<void()>& work);
 
     TextBox& txtLeng;
 
