@@ -8,7 +8,7 @@ BUILD_TYPE ?= Release
 JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
 PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev \
-            libgmock-dev libbenchmark-dev poppler-utils fonts-liberation2 \
+            libgmock-dev libbenchmark-dev poppler-utils fonts-liberation fonts-liberation2 \
             fonts-dejavu-core
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)

@@ -36,6 +36,12 @@ int main(int argc, char** argv) {
     if (batch) {
         // No screen is needed: fonts and PDF files work offscreen.
         if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        // Qt wants a private runtime folder; a batch run on a server may
+        // have none.
+        if (!std::getenv("XDG_RUNTIME_DIR")) {
+            char dir[] = "/tmp/gridpages-runtime-XXXXXX";
+            if (mkdtemp(dir)) setenv("XDG_RUNTIME_DIR", dir, 1);
+        }
         int qargc = 1;
         QGuiApplication app(qargc, argv);
         return gp::runBatch(options, gp::registerAllForms);

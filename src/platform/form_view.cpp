@@ -20,6 +20,7 @@
 
 #include "platform/canvas_device.h"
 #include "platform/qt_drawing.h"
+#include "platform/wrap_button.h"
 #include "shell/form_set.h"
 
 namespace gp {
@@ -193,7 +194,7 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
         break;
     }
     case ControlKind::Button: {
-        auto* b = new QPushButton(qs(d.caption), parent);
+        auto* b = new WrapButton(qs(d.caption), parent);
         b->setAutoDefault(false);
         connect(b, &QPushButton::clicked, this, [this, &c] {
             EventArgs a;
