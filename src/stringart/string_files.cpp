@@ -1,0 +1,99 @@
+// The File menu of frmString2: Save and Open of the point chain.
+
+#include "stringart/string_files.h"
+
+#include <fstream>
+
+#include "stringart/frm_string2.h"
+
+namespace gp {
+
+namespace {
+bool separator(int c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == ','; }
+} // namespace
+
+std::string StringArtLine(int value) {
+    const long long v = value;
+    return (v < 0 ? "-" : " ") + std::to_string(v < 0 ? -v : v) + " \r\n";
+}
+
+int StringArtReader::next() {
+    int c = in_.get();
+    while (c != std::char_traits<char>::eof() && separator(c)) c = in_.get();
+    if (c == std::char_traits<char>::eof()) throw StringArtFileError("the file ends early");
+    std::string token;
+    while (c != std::char_traits<char>::eof() && !separator(c)) {
+        token += static_cast<char>(c);
+        // No Integer needs more characters; a longer run is no Integer.
+        if (token.size() > 7) throw StringArtFileError("a value is too long");
+        c = in_.get();
+    }
+    size_t i = (token[0] == '-' || token[0] == '+') ? 1 : 0;
+    if (i == token.size()) throw StringArtFileError("a value has no digits");
+    long value = 0;
+    for (; i < token.size(); ++i) {
+        if (token[i] < '0' || token[i] > '9') throw StringArtFileError("a value is not a whole number");
+        value = value * 10 + (token[i] - '0');
+    }
+    if (token[0] == '-') value = -value;
+    if (value < -32768 || value > 32767) throw StringArtFileError("a value does not fit an Integer");
+    return static_cast<int>(value);
+}
+
+void FrmString2::mnuSave_Click() {
+    if (LastPoint < 3) {
+        MsgBox("You have not made a string art drawing of more than 2 points yet.", vbCritical,
+               "Need a drawing to Save!");
+        return;
+    }
+    try {
+        StringFileName = InputBox("Enter the name of the file you want to Save:", "Save File Name", "Shape1",
+                                  5000, 6000);
+        // Cancel gives the empty name.
+        if (Trim(StringFileName).empty()) throw StringArtFileError("no name");
+        // The whole text is made before the file is touched, so that a list
+        // that cannot be written leaves an existing file as it was.
+        std::string text = StringArtLine(NextPoint) + StringArtLine(LastPoint);
+        for (int i = 1; i <= LastPoint; ++i) text += StringArtLine(PX(i)) + StringArtLine(PY(i));
+        std::ofstream out(StringFileName, std::ios::binary | std::ios::trunc);
+        if (!out) throw StringArtFileError("cannot create the file");
+        out << text;
+        out.close();
+        if (out.fail()) throw StringArtFileError("cannot write the file");
+    } catch (const std::exception&) {
+        MsgBox("You cancelled the Save.", vbOKOnly, "");
+        return;
+    }
+    MsgBox("File: " + StringFileName + " has been stored successfully", vbOKOnly, "Saved");
+}
+
+void FrmString2::mnuOpen_Click() {
+    if (LastPoint > 3) {
+        if (MsgBox("You will erase the current string art drawing.", vbYesNo, "Are You sure?") == vbNo) {
+            MsgBox("File reading has been cancelled", vbOKOnly, "Cancelled Open");
+            return;
+        }
+    }
+    try {
+        StringFileName = InputBox("Enter the name of the file you want to Open:", "Open File Name", "Shape1",
+                                  2000, 4000);
+        if (Trim(StringFileName).empty()) throw StringArtFileError("no name");
+        std::ifstream in(StringFileName, std::ios::binary);
+        if (!in) throw StringArtFileError("cannot open the file");
+        StringArtReader reader(in);
+        // Straight into the fields: a read that fails part of the way keeps
+        // what it has taken so far, and nothing is drawn.
+        NextPoint = reader.next();
+        LastPoint = reader.next();
+        for (int i = 1; i <= LastPoint; ++i) {
+            PX(i) = reader.next();
+            PY(i) = reader.next();
+        }
+        in.close();
+        Redraw();
+    } catch (const std::exception&) {
+        MsgBox("Open has been cancelled.", vbOKOnly, "");
+    }
+}
+
+} // namespace gp
