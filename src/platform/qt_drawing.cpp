@@ -33,11 +33,11 @@ QPen makePen(int style, int width, long color, const PenScale& scale) {
 }
 
 void drawDot(QPainter& painter, double x, double y, int width, long color, const PenScale& scale) {
+    // A round pen point: one pixel on screen at width 1, a round dot of
+    // the width's diameter on paper.
     const double d = std::max(1, width) * scale.unitsPerWidth;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(toQColor(color));
-    painter.drawEllipse(QPointF(x, y), d / 2, d / 2);
-    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(toQColor(color), d, Qt::SolidLine, Qt::RoundCap));
+    painter.drawPoint(QPointF(x, y));
 }
 
 QFont toQFont(const FontSpec& font) {
