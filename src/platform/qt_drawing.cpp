@@ -45,7 +45,10 @@ QFont toQFont(const FontSpec& font) {
     f.setPointSizeF(font.size > 0 ? font.size : 8.25);
     f.setBold(font.bold);
     f.setItalic(font.italic);
-    f.setStyleHint(QFont::SansSerif);
+    // Where the named face is missing the stand-in keeps its kind: a serif
+    // heading stays serif.
+    const bool serif = font.name == "Georgia" || font.name == "Times New Roman";
+    f.setStyleHint(serif ? QFont::Serif : QFont::SansSerif);
     return f;
 }
 
