@@ -13,7 +13,7 @@ PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev \
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test bench clean
+.PHONY: all deps configure build run test bench install clean
 
 all: build
 
@@ -44,6 +44,15 @@ test: build
 
 bench: build
 	@for b in $(BUILD_DIR)/bench/bench_*; do [ -x "$$b" ] && QT_QPA_PLATFORM=offscreen "$$b"; done
+
+PREFIX ?= /usr/local
+
+# The program, its desktop entry, icon and man page, so that it shows in
+# the desktop's menu.
+install: build
+	$(SUDO) cmake --install $(BUILD_DIR) --prefix $(PREFIX)
+	-$(SUDO) update-desktop-database $(PREFIX)/share/applications 2>/dev/null
+	-$(SUDO) gtk-update-icon-cache -q -t $(PREFIX)/share/icons/hicolor 2>/dev/null
 
 clean:
 	rm -rf $(BUILD_DIR)
