@@ -13,7 +13,7 @@ PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev \
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test bench install clean
+.PHONY: all deps configure build run test bench install fuzz asan clean
 
 all: build
 
@@ -39,8 +39,26 @@ build: configure
 run: build
 	./$(BUILD_DIR)/gridpages
 
-test: build
+ASAN_DIR ?= build-asan
+FUZZ_SEED ?= $(shell date +%s)
+FUZZ_COUNT ?= 10000
+FUZZ_SAMPLE ?= 300
+
+# The program and the script generator with AddressSanitizer and
+# UndefinedBehaviorSanitizer, for the robustness harness.
+asan: deps
+	@if [ ! -f $(ASAN_DIR)/CMakeCache.txt ]; then \
+	  cmake -S . -B $(ASAN_DIR) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DGRIDPAGES_SANITIZE=ON; \
+	fi
+	cmake --build $(ASAN_DIR) -j $(JOBS) --target gridpages gridpages_fuzzgen
+
+test: build asan
 	cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+	tests/fuzz/run_fuzz.sh $(ASAN_DIR)/gridpages $(ASAN_DIR)/tests/gridpages_fuzzgen 20261123 $(FUZZ_SAMPLE) $(JOBS)
+
+# A longer run of the harness; FUZZ_SEED and FUZZ_COUNT choose it.
+fuzz: asan
+	tests/fuzz/run_fuzz.sh $(ASAN_DIR)/gridpages $(ASAN_DIR)/tests/gridpages_fuzzgen $(FUZZ_SEED) $(FUZZ_COUNT) $(JOBS)
 
 bench: build
 	@for b in $(BUILD_DIR)/bench/bench_*; do [ -x "$$b" ] && QT_QPA_PLATFORM=offscreen "$$b"; done
