@@ -3,91 +3,60 @@
 
 #include <gtest/gtest.h>
 
-#include "support/test_app.h"
+#include "dodec_sheet.h"
 #include "templates/frm_rhombi_dodec.h"
 #include "templates/rhombi_dodec.h"
 
 namespace gp {
 namespace {
 
-using test::Op;
-using test::Recorder;
+using test::Sheet;
+using test::Tiles;
 
-// A bare surface with a recorder: the figure with no form around it.
-struct Sheet {
-    std::vector<Op> ops;
-    Recorder rec{"S", ops};
-    DrawingSurface s;
-    Sheet(Single w, Single h) : s(DrawingSurface::Kind::Printer, "S", w, h) { s.attach(&rec); }
-    std::vector<Stroke> lines() const {
-        std::vector<Stroke> out;
-        for (const Op& o : ops)
-            if (o.op == "line") out.push_back(o.stroke);
-        return out;
-    }
-    // (tileX, tileY) of each copy: the start of its first stroke.
-    std::vector<std::pair<float, float>> tiles() const {
-        std::vector<std::pair<float, float>> out;
-        const auto ls = lines();
-        for (size_t i = 0; i < ls.size(); i += 38) out.push_back({ls[i].x1, ls[i].y1});
-        return out;
-    }
-};
-
-using Tiles = std::vector<std::pair<float, float>>;
+Tiles TilesOf(const Sheet& sh) { return test::TilesOf(sh.lines(), kRhombiDodecStrokes); }
 
 TEST(RhombiDodecSheet, WorkedFigures) {
-    Sheet preview(9405, 8400);  // "1.45" on the form
-    DrawRhombiDodecSheet(preview.s, 1160, TemplateForm::kPreviewLeft);
-    EXPECT_EQ(preview.lines().size(), 2u * 38);
-    EXPECT_EQ(preview.tiles(), (Tiles{{4289, 0}, {7253, 0}}));
-
     Sheet print(11520, 15120);  // "1.45" on paper
     DrawRhombiDodecSheet(print.s, 2088, 0);
-    EXPECT_EQ(print.tiles(), (Tiles{{2320, 0}, {7656, 0}}));
+    EXPECT_EQ(TilesOf(print), (Tiles{{2320, 0}, {7656, 0}}));
 
     Sheet inch(11520, 15120);
     DrawRhombiDodecSheet(inch.s, 1440, 0);
-    EXPECT_EQ(inch.tiles(), (Tiles{{1600, 0}, {5280, 0}, {8960, 0}}));
+    EXPECT_EQ(TilesOf(inch), (Tiles{{1600, 0}, {5280, 0}, {8960, 0}}));
 }
 
-TEST(RhombiDodecSheet, ColumnTestSeesTheRightTip) {
-    // Two copies fit on the canvas up to 1.47 inches, one from 1.48.
-    for (int side : {1168, 1176}) {
-        Sheet c(9405, 8400);
-        DrawRhombiDodecSheet(c.s, side, TemplateForm::kPreviewLeft);
-        EXPECT_EQ(c.tiles().size(), 2u) << side;
-    }
-    Sheet c(9405, 8400);
-    DrawRhombiDodecSheet(c.s, 1184, TemplateForm::kPreviewLeft);
-    EXPECT_EQ(c.tiles().size(), 1u);
+size_t Copies(Single w, Single h, int side, int rowStart) {
+    Sheet sh(w, h);
+    DrawRhombiDodecSheet(sh.s, side, rowStart);
+    return TilesOf(sh).size();
+}
 
+TEST(RhombiDodecSheet, LoopEnds) {
+    const int form = TemplateForm::kPreviewLeft;
+    // The column test sees the right tip: two copies on the canvas up to
+    // 1.47 inches, one from 1.48.
+    EXPECT_EQ(Copies(9405, 8400, 1168, form), 2u);
+    EXPECT_EQ(Copies(9405, 8400, 1176, form), 2u);
+    EXPECT_EQ(Copies(9405, 8400, 1184, form), 1u);
     // At the default the second copy reaches 9315, inside the canvas.
     Sheet d(9405, 8400);
-    DrawRhombiDodecSheet(d.s, 1160, TemplateForm::kPreviewLeft);
+    DrawRhombiDodecSheet(d.s, 1160, form);
     float right = 0;
     for (const Stroke& s : d.lines()) right = std::max({right, s.x1, s.x2});
     EXPECT_NEAR(right, 9315, 1);
-}
 
-TEST(RhombiDodecSheet, RowTestSeesTheSpineOnly) {
-    // 1.85 inches still fits a row on the canvas and on the sheet, 1.86 not.
-    Sheet a(9405, 8400), b(9405, 8400), c(11520, 15120), d(11520, 15120);
-    DrawRhombiDodecSheet(a.s, 1480, TemplateForm::kPreviewLeft);
-    DrawRhombiDodecSheet(b.s, 1488, TemplateForm::kPreviewLeft);
-    DrawRhombiDodecSheet(c.s, 2664, 0);
-    DrawRhombiDodecSheet(d.s, 2678, 0);
-    EXPECT_EQ(a.tiles().size(), 1u);
-    EXPECT_TRUE(b.ops.empty());
-    EXPECT_EQ(c.tiles().size(), 1u);
-    EXPECT_TRUE(d.ops.empty());
+    // The row test sees the spine only: 1.85 inches still fits a row on the
+    // canvas and on the sheet, 1.86 draws nothing.
+    EXPECT_EQ(Copies(9405, 8400, 1480, form), 1u);
+    EXPECT_EQ(Copies(9405, 8400, 1488, form), 0u);
+    EXPECT_EQ(Copies(11520, 15120, 2664, 0), 1u);
+    EXPECT_EQ(Copies(11520, 15120, 2678, 0), 0u);
 
     // Smaller sides fill more rows, each a spine's height below the last.
     Sheet e(11520, 15120);
     DrawRhombiDodecSheet(e.s, 720, 0);
-    const Tiles t = e.tiles();
+    const Tiles t = TilesOf(e);
     ASSERT_EQ(t.size(), 18u);  // 6 columns, 3 rows
-    EXPECT_EQ(t[0], std::make_pair(800.f, 0.f));
     EXPECT_EQ(t[5], std::make_pair(800.f + 5 * 1840, 0.f));
     EXPECT_EQ(t[6], std::make_pair(800.f, 4073.f));  // CInt(4320 * s1)
     EXPECT_EQ(t[12], std::make_pair(800.f, 8146.f));
@@ -117,14 +86,6 @@ TEST(RhombiDodecCopy, OneClosedWalkThenElevenFolds) {
     EXPECT_NEAR(ls[1].y2, 1440 * 0.6285393611, 0.01);
 }
 
-TEST(RhombiDodecWarning, LooksAtTheFlooredSide) {
-    EXPECT_TRUE(RhombiDodecWantsWarning(1160, 800));    // 1.45, preview
-    EXPECT_FALSE(RhombiDodecWantsWarning(1168, 800));   // 1.46, preview
-    EXPECT_TRUE(RhombiDodecWantsWarning(2102, 1440));   // 1.46, print
-    EXPECT_FALSE(RhombiDodecWantsWarning(2103, 1440));
-    EXPECT_TRUE(RhombiDodecWantsWarning(0, 800));
-}
-
 // The form around the figure: the label, the range of txtLeng_Change, the
 // print, and the sides it refuses.
 struct RhombiDodecForm : ::testing::Test {
@@ -146,6 +107,7 @@ TEST_F(RhombiDodecForm, DesignAndDefaultPreview) {
     const auto ls = t.lines("frmRhombiDodec");
     ASSERT_EQ(ls.size(), 2u * kRhombiDodecStrokes);
     EXPECT_EQ(ls[0].x1, 4289);
+    EXPECT_EQ(ls[0].x2 - ls[0].x1, 1160);  // the top edge is one side
     EXPECT_EQ(ls[38].x1, 7253);
     EXPECT_TRUE(info2(f).Visible());
     EXPECT_EQ(info2(f).Caption(),
@@ -195,6 +157,7 @@ TEST_F(RhombiDodecForm, PrintIsOneSheet) {
     const auto ls = t.lines("Printer");
     ASSERT_EQ(ls.size(), 2u * kRhombiDodecStrokes);
     EXPECT_EQ(ls[0].x1, 2320);
+    EXPECT_EQ(ls[0].x2 - ls[0].x1, 2088);
     EXPECT_EQ(ls[38].x1, 7656);
     EXPECT_EQ(t.count("Printer", "enddoc"), 1);
     EXPECT_EQ(t.printer().DrawStyle(), 0);
