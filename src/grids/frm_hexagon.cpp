@@ -74,18 +74,20 @@ void PrintHoneycombSheet(DrawingSurface& P, Integer side) {
     const Double rows = std::max(0.0, (pageH - rise) / (2.0 * rise) + 1);
     if (columns * rows * 6 > WorkMeter::kDefaultLimit) throwWorkLimit();
 
+    // Positions are kept wide so that the step past the last hexagon cannot
+    // overflow on a very large sheet; every drawn one lies on the sheet.
     Integer col = 0;
-    Integer x = CInt(side / 2.0);
+    Long x = CInt(side / 2.0);
     // A column may start until 1.4 sides from the right edge, though its
     // hexagons reach 1.5 sides to the right; the rest is clipped.
     while (pageW - side * 1.4 > x) {
-        Integer y = (col % 2 == 1) ? rise : Integer(0);
+        long y = (col % 2 == 1) ? long(rise) : 0L;
         while (y < pageH - rise) {
-            DrawHexagon(P, x, y, side, rise);
+            DrawHexagon(P, Integer(x), Integer(y), side, rise);
             y += 2 * rise;
         }
         col += 1;
-        x = CInt(side * 1.5 + x);
+        x = CLng(side * 1.5 + x);
     }
     P.EndDoc();
 }

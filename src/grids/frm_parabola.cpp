@@ -1,5 +1,7 @@
 #include "grids/frm_parabola.h"
 
+#include <limits>
+
 #include "grids/integer_range.h"
 #include "shell/form_set.h"
 
@@ -38,26 +40,37 @@ Integer AxisY(DrawingSurface& P) { return CInt(P.ScaleHeight() - 1441); }
 } // namespace
 
 void FrmParabola::cmdGraph_Click() {
-    DrawingSurface& P = Printer();
-    const Single a = CSng(Val(txtWid.Text()));
+    // The ticks are one thinner than the curve and must keep at least 1.
+    // Nothing but this box sees the change, so it may come before the axes.
+    if (Val(txtThick.Text()) < 2) txtThick.setText("2");
+    const Double a = Val(txtWid.Text());
+    if (Abs(a) > std::numeric_limits<Single>::max())
+        throwInvalid("Nothing was printed: the factor a is too large. Please type a smaller number.");
+    PrintParabolaSheet(Printer(), CSng(a), txtWid.Text(), Val(txtThick.Text()));
+}
+
+void PrintParabolaSheet(DrawingSurface& P, Single a, const std::string& aText, Double thick) {
+    // Both widths are worked out first, so a thickness no Integer holds
+    // stops the sheet before anything is drawn.
+    const Integer tickWidth = Int(thick - 1);
+    const Integer curveWidth = Int(thick);
     // Both axes take the DrawWidth the Printer holds now.
     const Integer axisY = AxisY(P);
     const Integer pageW = CInt(P.ScaleWidth());
     const Integer midX = CInt(pageW / 2.0);
     P.Line(midX, axisY + 1440, midX, 0);
     P.Line(0, axisY, pageW, axisY);
-    // The ticks are one thinner than the curve and must keep at least 1.
-    if (Val(txtThick.Text()) < 2) txtThick.setText("2");
-    DrawParabolaAxes(P, Int(Val(txtThick.Text()) - 1));
-    P.setDrawWidth(Int(Val(txtThick.Text())));
+    DrawParabolaTicks(P, tickWidth);
+    P.setDrawWidth(curveWidth);
     DrawParabolaCurve(P, a);
     P.CurrentX = 700;
     P.CurrentY = 100;
-    P.Print("y = ", txtWid.Text(), "x^2");
+    // The equation holds the text exactly as typed.
+    P.Print("y = ", aText, "x^2");
     P.EndDoc();
 }
 
-void DrawParabolaAxes(DrawingSurface& P, Integer tickWidth) {
+void DrawParabolaTicks(DrawingSurface& P, Integer tickWidth) {
     const Integer axisY = AxisY(P);
     const Integer midX = CInt(CInt(P.ScaleWidth()) / 2.0);
     P.setDrawWidth(tickWidth);

@@ -2,6 +2,8 @@
 // frmParabola, "Draw a Parabola": y = a x squared on inch axes, the curve
 // dot by dot, and the equation as typed in the top left corner.
 
+#include <string>
+
 #include "shell/form.h"
 
 namespace gp {
@@ -19,9 +21,12 @@ private:
     TextBox& txtThick;
 };
 
-// Axes with their ticks at each inch: the axes in the Printer's present
-// DrawWidth, the ticks one thinner than `thick`.
-void DrawParabolaAxes(DrawingSurface& surface, Integer thick);
+// The whole sheet: axes, ticks, curve and the equation "y = " aText "x^2",
+// then EndDoc. `thick` is the thickness as read, at least 2.
+void PrintParabolaSheet(DrawingSurface& surface, Single a, const std::string& aText, Double thick);
+
+// The ticks at each inch on both axes, in `tickWidth`.
+void DrawParabolaTicks(DrawingSurface& surface, Integer tickWidth);
 
 // The curve: for each twip i out to four inches, a dot on either side of the
 // vertical axis, leaving out those above the sheet or beyond its sides.

@@ -102,3 +102,13 @@ TEST(ParabolaSheet, DotsBeyondAnIntegerOrThePageAreLeftOut) {
         EXPECT_LE(o.stroke.x1, 8000);
     }
 }
+
+TEST(ParabolaSheet, NumbersNoSingleOrIntegerHoldsStopBeforeAnyStroke) {
+    Parabola huge("1e39");
+    EXPECT_EQ(huge.t.ops().size(), 0u);
+    ASSERT_EQ(huge.t.faults().size(), 1u);
+    EXPECT_NE(huge.t.faults()[0].find("factor a"), std::string::npos);
+    Parabola thick("1", "1e10");
+    EXPECT_EQ(thick.t.ops().size(), 0u);
+    EXPECT_EQ(thick.t.faults().size(), 1u);
+}
