@@ -12,12 +12,23 @@
 
 namespace gp {
 
+namespace {
+// The printer's own paper, turned as the page asks, with no margins beyond
+// those the printer cannot print on: the printable area is what the printer
+// reports.
+void setUp(QPrinter& printer, const QPrinterInfo& info, int orientation) {
+    printer.setPageSize(info.defaultPageSize());
+    printer.setPageOrientation(orientation == 2 ? QPageLayout::Landscape : QPageLayout::Portrait);
+    printer.setPageMargins(printer.pageLayout().minimumMargins(), printer.pageLayout().units());
+}
+} // namespace
+
 SystemPrinterSink::SystemPrinterSink() {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     hasPrinter_ = !info.isNull();
     if (!hasPrinter_) return;
     QPrinter printer(info, QPrinter::HighResolution);
-    printer.setPageOrientation(QPageLayout::Portrait);
+    setUp(printer, info, 1);
     const QRectF area = printer.pageLayout().paintRect(QPageLayout::Inch);
     if (area.width() > 0 && area.height() > 0) {
         width_ = static_cast<Single>(area.width() * 1440.0);
@@ -36,10 +47,11 @@ void SystemPrinterSink::emitPage(const Page& page, Single printableWidth, Single
         saveAsPdf(page, printableWidth, printableHeight);
         return;
     }
-    QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    QPrinter printer(info, QPrinter::HighResolution);
+    setUp(printer, info, page.orientation);
     printer.setResolution(1440);  // painter units are twips
     printer.setDocName("gridpages sheet");
-    printer.setPageOrientation(page.orientation == 2 ? QPageLayout::Landscape : QPageLayout::Portrait);
     // Without full-page mode the painter's origin is the corner of the
     // printable area, which is where the pages put theirs.
     paintSheet(printer, page, printableWidth, printableHeight, 0.0);
