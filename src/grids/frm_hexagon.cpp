@@ -18,16 +18,16 @@ FormDesign FrmHexagon::Design() {
     d.backColor = RGB(192, 255, 192);
     d.font = FontSpec{"Arial", 9.75, false, false};
     d.controls = {
-        LabelDesign("lblSide", "Length (inches)").at(120, 240, 1335, 375),
-        TextBoxDesign("txtLeng", "1").at(1500, 180, 735, 435),
-        LabelDesign("lblThick", "Thickness (points)").at(120, 840, 1335, 375),
-        TextBoxDesign("txtThick", "4").at(1500, 780, 735, 435),
-        ButtonDesign("cmdPrintIt", "Print It").at(120, 1560, 2115, 615),
-        ButtonDesign("cmdExit", "E&xit").at(120, 2400, 2115, 615),
-        LabelDesign("lblscale", "Scaling Factor:").at(2520, 240, 1215, 375),
-        TextBoxDesign("txtScale", "0.5").at(3720, 180, 795, 435),
-        ButtonDesign("cmdHexInscribed", "Inscribed on edge").at(2520, 840, 1995, 615),
-        ButtonDesign("cmdTarget", "Target").at(2520, 1560, 1995, 615),
+        LabelDesign("lblSide", "Length (inches)").at(120, 300, 1815, 315),
+        TextBoxDesign("txtLeng", "1").at(1950, 240, 555, 405),
+        LabelDesign("lblThick", "Thickness (points)").at(120, 900, 1815, 315),
+        TextBoxDesign("txtThick", "4").at(1950, 840, 555, 405),
+        ButtonDesign("cmdPrintIt", "Print It").at(120, 1560, 2385, 615),
+        ButtonDesign("cmdExit", "E&xit").at(120, 2400, 2385, 615),
+        LabelDesign("lblscale", "Scaling Factor:").at(2700, 300, 1335, 315),
+        TextBoxDesign("txtScale", "0.5").at(4020, 240, 555, 405),
+        ButtonDesign("cmdHexInscribed", "Inscribed on edge").at(2700, 840, 1875, 615),
+        ButtonDesign("cmdTarget", "Target").at(2700, 1560, 1875, 615),
     };
     return d;
 }

@@ -42,12 +42,11 @@ FrmSquares::FrmSquares(FormSet& app)
 }
 
 void FrmSquares::cmdPrintIt_Click() {
-    // Everything typed is read and checked before the sheet is turned, so a
-    // refused value leaves the Printer as it was.
-    const Integer thick = Int(Val(txtThick.Text()));
+    Printer().setDrawWidth(Int(Val(txtThick.Text())));
+    // The cells are checked before the sheet is turned, so a refused value
+    // never leaves the Printer in landscape.
     const Integer cellW = CellTwips(txtWidth.Text());
     const Integer cellH = CellTwips(txtHigh.Text());
-    Printer().setDrawWidth(thick);
     PrintSquaresSheet(Printer(), cellW, cellH, chkMult.Value() == 1);
 }
 
