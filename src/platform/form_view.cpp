@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <QWindow>
 
 #include "platform/canvas_device.h"
@@ -128,15 +129,20 @@ QPoint FormView::toPixels(int twipsX, int twipsY) const { return QPoint(px(twips
 void FormView::build() {
     const FormDesign& fd = form_.design();
     const int w = px(fd.clientWidth), h = px(fd.clientHeight);
-    buildMenus();
-    const int top = menuBar_ ? menuBar_->sizeHint().height() : 0;
-    if (menuBar_) menuBar_->setGeometry(0, 0, w, top);
-
-    client_ = new Client(*this);
-    client_->setGeometry(0, top, w, h);
-    client_->setAutoFillBackground(false);
     setFont(toQFont(fd.font));
-    setFixedSize(w, h + top);
+    buildMenus();
+    // The menu bar sits above the client area, which keeps its design size;
+    // a layout lets the bar lay out its entries across the whole width.
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    if (menuBar_) layout->setMenuBar(menuBar_);
+    client_ = new Client(*this);
+    client_->setFixedSize(w, h);
+    client_->setAutoFillBackground(false);
+    layout->addWidget(client_);
+    layout->activate();
 
     const double dpr = devicePixelRatioF() > 0 ? devicePixelRatioF() : 1.0;
     canvas_ = std::make_unique<CanvasDevice>(static_cast<int>(w * dpr), static_cast<int>(h * dpr),
