@@ -1,5 +1,6 @@
 #include "stringart/stick_fill.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "shell/random.h"
@@ -61,6 +62,16 @@ void StickCrossings::build(Integer Leng, Integer Count, Single legStepX, Single 
             crossY_[cell(i, j)] = Single(-T);
         }
     }
+}
+
+double StickCrossings::hatchLines(Integer Count) const {
+    double lines[2] = {0, 0};
+    for (int i = 1; i <= Count - 1; ++i)
+        for (int j = i + 2; j <= Count; ++j) {
+            const double rows = std::floor(-(CrossY(i - 1, j) - CrossY(i - 1, j - 1)));
+            if (rows > 0) lines[(i + j) % 2] += rows + 1;
+        }
+    return std::max(lines[0], lines[1]);
 }
 
 } // namespace gp

@@ -43,6 +43,10 @@ public:
     template <typename Emit>
     void hatch(Integer Count, Integer Parity, Emit&& emit) const;
 
+    // How many lines hatch() would draw with the busier of the two
+    // parities, worked out from the tables alone.
+    double hatchLines(Integer Count) const;
+
     Single CrossX(int i, int j) const { return crossX_[cell(i, j)]; }
     Single CrossY(int i, int j) const { return crossY_[cell(i, j)]; }
     Single StickSlope(int i) const { return slope_[at(i)]; }

@@ -51,17 +51,24 @@ void PrintStickCurves(DrawingSurface& P, const StickInputs& in, StickVertex& sta
     // Count is a Double that holds a whole number; the loops run to CInt(Count).
     const Double Count = Int(Length / Single(Leng));
     const Integer last = CInt(Count);
-    if (in.filled()) CheckStickCount(last, kPageFillBound);
+    StickCrossings table(in.filled() ? kPageFillBound : 0);
+    if (in.filled()) {
+        CheckStickCount(last, kPageFillBound);
+        // The tables depend on nothing that the strokes change, so they are
+        // worked out first: a sheet too big for any printer (a page of a
+        // size far beyond paper) is refused before its first stroke.
+        table.build(Leng, last, StepCos, StepSin, in.degrees == 90, StickAngle);
+        const double sides = in.doubled ? 2 : 1;
+        if (sides * (table.hatchLines(last) + last + 1) > WorkMeter::kDefaultLimit) throwWorkLimit();
+    }
 
     for (int k = 0; k <= last; ++k)
         P.Line(start.StartX, (Count - k) * Leng + start.StartY,
                Single(k) * StepSin + Single(start.StartX), Single(k) * StepCos + Single(start.StartY));
 
-    StickCrossings table(in.filled() ? kPageFillBound : 0);
     StickColour colour{};
     long rgb = 0;
     if (in.filled()) {
-        table.build(Leng, last, StepCos, StepSin, in.degrees == 90, StickAngle);
         P.setDrawWidth(2);
         random.Randomize(timer);
         colour = FreshStickColour(random);
