@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -11,17 +12,7 @@
 
 namespace gp::string2test {
 
-struct Seg {
-    float x1, y1, x2, y2;
-    long color;
-    bool operator==(const Seg& o) const {
-        return x1 == o.x1 && y1 == o.y1 && x2 == o.x2 && y2 == o.y2 && color == o.color;
-    }
-};
-
-inline std::ostream& operator<<(std::ostream& os, const Seg& s) {
-    return os << "(" << s.x1 << "," << s.y1 << ")-(" << s.x2 << "," << s.y2 << ") c" << s.color;
-}
+using Seg = std::array<float, 5>;  // x1, y1, x2, y2, colour
 
 class String2Test : public ::testing::Test {
 protected:
@@ -30,37 +21,29 @@ protected:
         f = &t.show<FrmString2>("frmString2");
         t.clear();
     }
-
-    void click(double x, double y, int button = 1) {
+    void click(double x, double y) {
         EventArgs a;
-        a.button = button;
+        a.button = 1;
         a.x = static_cast<Single>(x);
         a.y = static_cast<Single>(y);
         t.fire(*f, kFormEvents, Event::MouseDown, a);
     }
-    void move(double x, double y) {
-        EventArgs a;
-        a.x = static_cast<Single>(x);
-        a.y = static_cast<Single>(y);
-        t.fire(*f, kFormEvents, Event::MouseMove, a);
-    }
     void press(const std::string& control) { t.fire(*f, control, Event::Click); }
     void type(const std::string& box, const std::string& text) { t.edit(*f, box, text); }
-    void tick(bool on) { static_cast<CheckBox*>(f->find("chkColorIt"))->setValue(on ? 1 : 0); }
-    void setPos(const std::string& x, const std::string& y) {
-        type("txtX", x);
-        type("txtY", y);
+    void tick(int v) { static_cast<CheckBox*>(f->find("chkColorIt"))->setValue(v); }
+    void setPos(int x, int y) {
+        type("txtX", std::to_string(x));
+        type("txtY", std::to_string(y));
         press("lblSetPos");
     }
     // Clear It, then a chain of typed points.
     void chain(const std::vector<std::pair<int, int>>& pts) {
         press("Command1");
-        for (auto [x, y] : pts) setPos(std::to_string(x), std::to_string(y));
+        for (auto [x, y] : pts) setPos(x, y);
     }
-
     std::vector<Seg> segs(const std::string& surface = "frmString2") const {
         std::vector<Seg> out;
-        for (const Stroke& s : t.lines(surface)) out.push_back({s.x1, s.y1, s.x2, s.y2, s.color});
+        for (const Stroke& s : t.lines(surface)) out.push_back({s.x1, s.y1, s.x2, s.y2, float(s.color)});
         return out;
     }
     std::vector<test::DialogRecord> boxes() {
@@ -68,6 +51,10 @@ protected:
         for (const auto& d : t.dialogs())
             if (d.kind == "msgbox") out.push_back(d);
         return out;
+    }
+    std::string lastPrompt() {
+        const auto b = boxes();
+        return b.empty() ? "" : b.back().prompt;
     }
 
     test::TestApp t;
