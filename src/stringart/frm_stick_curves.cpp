@@ -108,7 +108,7 @@ void FrmStickCurves::txtAngle_LostFocus() {
 void FrmStickCurves::cmdExit_Click() { Hide(); }
 
 void CheckStickAngle(Double degrees) {
-    if (degrees < 10 || degrees > 170)
+    if (!(degrees >= 10 && degrees <= 170))
         throwInvalid("Nothing was drawn: the angle must be from 10 to 170 degrees.");
 }
 
