@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "explode/graph_points.h"
-#include "shell/form_set.h"
 
 namespace gp {
 
