@@ -111,7 +111,7 @@ Integer IMul(Integer a, Integer b) {
 
 namespace {
 // Writes x with at most `precision` significant digits, in fixed notation
-// for decimal exponents from -5 up to precision - 1 and as 1.5E+20 otherwise,
+// for decimal exponents from -4 up to precision - 1 and as 1.5E+20 otherwise,
 // with no 0 before the point and a leading blank for a value not negative.
 std::string formatStr(double x, int precision) {
     if (x == 0.0) return " 0";  // also -0: there is no negative zero in text
@@ -129,7 +129,7 @@ std::string formatStr(double x, int precision) {
     while (digits.size() > 1 && digits.back() == '0') digits.pop_back();
 
     std::string body;
-    if (exponent >= -5 && exponent < precision) {
+    if (exponent >= -4 && exponent < precision) {
         if (exponent < 0) {
             body = "." + std::string(static_cast<size_t>(-exponent - 1), '0') + digits;
         } else if (static_cast<int>(digits.size()) <= exponent + 1) {
