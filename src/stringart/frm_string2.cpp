@@ -50,8 +50,8 @@ FormDesign FrmString2::Design() {
         CheckBoxDesign("chkColorIt", "Color lines").at(120, 6180, 1335, 375),
         ButtonDesign("cmdCycle", "Change Colors").at(120, 6660, 1335, 495)
             .tip("Start or stop the line to change colors"),
-        ButtonDesign("cmdExit", "Exit").at(120, 7860, 1335, 495),
-        ButtonDesign("cmdPrintIt", "Print It").at(120, 7260, 1335, 495)
+        ButtonDesign("cmdExit", "Exit").at(120, 7260, 1335, 495),
+        ButtonDesign("cmdPrintIt", "Print It").at(120, 7860, 1335, 495)
             .tip("Your points will be put on Paper."),
         LineDesign("lne1", kPanel, 0, kPanel, 9000),
         MenuDesign("mnuFile", "&File"),
