@@ -2,7 +2,6 @@
 // leaves only at EndDoc and a faulted page never leaves at all.
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
 #include <QImage>
 
 #include "platform/canvas_device.h"
@@ -52,8 +51,6 @@ TEST(PageBuffer, APageLeavesWholeAtEndDocAndAFaultedPageNever) {
 }
 
 TEST(Canvas, MarksStayUntilClsAndFollowTheFormsScale) {
-    int argc = 0;
-    QGuiApplication app(argc, nullptr);
     // 100 by 50 pixels over a scale of 1000 by 500 units.
     CanvasDevice canvas(100, 50, 1000, 500, RGB(255, 255, 255), 1.0);
     DrawingSurface me(DrawingSurface::Kind::Canvas, "frmTest", 1000, 500);

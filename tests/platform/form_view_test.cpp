@@ -2,7 +2,6 @@
 // pixel, and widget events that reach the form's handlers.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest/QTest>
@@ -14,12 +13,6 @@ using namespace gp;
 using gp::test::TestApp;
 
 namespace {
-QApplication& qapp() {
-    static int argc = 0;
-    static QApplication app(argc, nullptr);
-    return app;
-}
-
 template <typename W>
 W* widgetOf(FormView& view, const QString& text) {
     for (W* w : view.findChildren<W*>())
@@ -29,7 +22,6 @@ W* widgetOf(FormView& view, const QString& text) {
 } // namespace
 
 TEST(FormView, TheMenuIsBuiltFromItsTable) {
-    qapp();
     TestApp t;
     Form& menu = t.app().start("frmGrids");
     FormView view(t.app(), menu);
@@ -49,7 +41,6 @@ TEST(FormView, TheMenuIsBuiltFromItsTable) {
 }
 
 TEST(FormView, ClicksAndKeystrokesReachTheHandlers) {
-    qapp();
     TestApp t;
     Form& f = t.show("frmTriangle");
     FormView view(t.app(), f);
