@@ -1,6 +1,5 @@
-// The angle label, the "Angle Error" message, and bad input reaching the
-// three drawings: each ends at once with a message or an empty figure, and
-// the form keeps working.
+// The angle label, "Angle Error", and bad input reaching the drawings: each
+// ends at once with a message or an empty figure, and the form keeps working.
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -9,132 +8,96 @@
 
 using namespace stick_test;
 
-namespace {
-std::string pressLabel(const std::string& typed, int button) {
-    StickForm s;
-    s.t.edit(*s.f, "txtAngle", typed);
-    EventArgs e;
-    e.button = button;
-    s.t.fire(*s.f, "lblAngle", Event::MouseDown, e);
-    EXPECT_TRUE(s.t.faults().empty());
-    return static_cast<TextBox*>(s.f->find("txtAngle"))->Text();
-}
-} // namespace
-
-TEST(StickAngleLabel, StepsByFiveAndClipsTo10And170) {
-    EXPECT_EQ(pressLabel("50", 1), " 55");
-    EXPECT_EQ(pressLabel("54", 2), " 49");
-    EXPECT_EQ(pressLabel("168", 1), " 170");
-    EXPECT_EQ(pressLabel("12", 2), " 10");
-    EXPECT_EQ(pressLabel("200", 4), " 170");  // middle: only rewritten, clipped
-    EXPECT_EQ(pressLabel("60", 4), " 60");
-    EXPECT_EQ(pressLabel("abc", 1), " 10");
-    // CInt first: ties go to the even number.
-    EXPECT_EQ(pressLabel("52.5", 1), " 57");
-    EXPECT_EQ(pressLabel("53.5", 1), " 59");
-    // Far outside the Integer range it still clips instead of overflowing.
-    EXPECT_EQ(pressLabel("99999999", 2), " 170");
-    EXPECT_EQ(pressLabel("-99999999", 1), " 10");
+TEST(StickAngleLabel, StepsByFiveFromCIntAndClipsTo10And170) {
+    const struct { const char* typed; int button; const char* shown; } cases[] = {
+        {"50", 1, " 55"}, {"54", 2, " 49"}, {"168", 1, " 170"}, {"12", 2, " 10"},
+        {"200", 4, " 170"}, {"abc", 1, " 10"}, {"52.5", 1, " 57"}, {"53.5", 1, " 59"},
+        {"99999999", 2, " 170"}, {"-99999999", 1, " 10"},
+    };
+    for (const auto& c : cases) {
+        StickForm s;
+        s.t.edit(*s.f, "txtAngle", c.typed);
+        EventArgs e;
+        e.button = c.button;
+        s.t.fire(*s.f, "lblAngle", Event::MouseDown, e);
+        EXPECT_EQ(static_cast<TextBox*>(s.f->find("txtAngle"))->Text(), c.shown) << c.typed;
+        EXPECT_TRUE(s.t.dialogs().empty());
+    }
 }
 
 TEST(StickAngleError, LimitsAreInclusiveAndTheMessageHasTheStopIcon) {
-    for (const char* ok : {"10", "170", "54", " 55", "10.0"}) {
+    for (const char* typed : {"10", "170", " 55", "9.99", "170.01", "", "abc"}) {
         StickForm s;
-        s.t.edit(*s.f, "txtAngle", ok);
+        s.t.edit(*s.f, "txtAngle", typed);
         s.t.fire(*s.f, "txtAngle", Event::LostFocus);
-        EXPECT_TRUE(s.t.dialogs().empty()) << ok;
-    }
-    for (const char* bad : {"9.99", "170.01", "", "abc", "-54"}) {
-        StickForm s;
-        s.t.edit(*s.f, "txtAngle", bad);
-        s.t.fire(*s.f, "txtAngle", Event::LostFocus);
-        ASSERT_EQ(s.t.dialogs().size(), 1u) << bad;
-        const auto& d = s.t.dialogs()[0];
-        EXPECT_EQ(d.kind, "msgbox");
-        EXPECT_EQ(d.title, "Angle Error");
-        EXPECT_EQ(d.prompt, "You must enter an angle >10 and < 170");
-        EXPECT_EQ(d.buttons, 16);
-    }
-}
-
-TEST(StickBadInput, DistanceWithNoLengthIsRefusedByAllThreeDrawings) {
-    for (const char* tics : {"0", "", "abc", ".", "-0.5", ".0003"}) {
-        StickForm s;
-        s.set("54", tics);
-        for (const char* button : {"cmdDrawIt", "cmdPrintIt", "cmdAnimate"}) {
-            s.t.clear();
-            const auto t0 = std::chrono::steady_clock::now();
-            s.click(button);
-            EXPECT_LT(std::chrono::steady_clock::now() - t0, std::chrono::milliseconds(200));
-            ASSERT_EQ(s.t.faults().size(), 1u) << tics << " " << button;
-            EXPECT_NE(s.t.faults()[0].find("distance"), std::string::npos);
-            EXPECT_TRUE(s.canvas().empty());
-            EXPECT_TRUE(s.page().empty());
-            EXPECT_EQ(s.t.count("Printer", "enddoc"), 0);
+        const double v = Val(typed);
+        if (v >= 10 && v <= 170) {
+            EXPECT_TRUE(s.t.dialogs().empty()) << typed;
+            continue;
         }
-        // The form stays usable.
-        s.t.clear();
-        s.set("54", ".5").click("cmdDrawIt");
-        EXPECT_TRUE(s.t.faults().empty());
-        EXPECT_EQ(StickForm::black(s.canvas()).size(), 17u);
+        ASSERT_EQ(s.t.dialogs().size(), 1u) << typed;
+        EXPECT_EQ(s.t.dialogs()[0].title, "Angle Error");
+        EXPECT_EQ(s.t.dialogs()[0].prompt, "You must enter an angle >10 and < 170");
+        EXPECT_EQ(s.t.dialogs()[0].buttons, 16);
     }
 }
 
-TEST(StickBadInput, AngleOutsideTheLimitsReachingADrawing) {
-    for (const char* angle : {"9.5", "0", "170.5", "180", "360", "-90", "abc"}) {
+TEST(StickBadInput, NoDistanceOrNoAngleDrawsNothingAndTheFormGoesOn) {
+    const struct { const char* angle; const char* tics; const char* says; } cases[] = {
+        {"54", "0", "distance"}, {"54", "", "distance"}, {"54", "abc", "distance"},
+        {"54", "-0.5", "distance"}, {"54", ".0003", "distance"},
+        {"9.5", ".5", "10 to 170"}, {"170.5", ".5", "10 to 170"}, {"abc", ".5", "10 to 170"},
+    };
+    for (const auto& c : cases) {
         StickForm s;
-        s.set(angle, ".5", true);
+        s.set(c.angle, c.tics, true);
+        const auto t0 = std::chrono::steady_clock::now();
         s.click("cmdDrawIt");
         s.click("cmdPrintIt");
-        ASSERT_EQ(s.t.faults().size(), 2u) << angle;
-        EXPECT_NE(s.t.faults()[0].find("10 to 170"), std::string::npos);
+        EXPECT_LT(std::chrono::steady_clock::now() - t0, std::chrono::milliseconds(200));
+        ASSERT_EQ(s.t.faults().size(), 2u) << c.angle << " " << c.tics;
+        EXPECT_NE(s.t.faults()[0].find(c.says), std::string::npos) << s.t.faults()[0];
         EXPECT_TRUE(s.canvas().empty());
         EXPECT_TRUE(s.page().empty());
+        EXPECT_EQ(s.t.count("Printer", "enddoc"), 0);
+        s.t.clear();
+        s.set("54", ".5").click("cmdDrawIt");
+        EXPECT_EQ(black(s.canvas()).size(), 17u);
     }
-    // The limits themselves draw.
-    for (const char* angle : {"10", "170"}) {
+}
+
+TEST(StickBadInput, MultiDrawingStopsBelow10AndPastAHalfTurnAndOnAStepOfZero) {
+    const struct { const char* angle; const char* tics; int faults; int bases; } cases[] = {
+        {"9.9", ".5", 0, 0}, {"175", ".5", 0, 17}, {"180", ".5", 1, 0}, {"270", ".5", 1, 0},
+        {"1e9", ".5", 1, 0}, {"54", "0", 1, 0}, {"54", "abc", 1, 0},
+    };
+    for (const auto& c : cases) {
         StickForm s;
-        s.set(angle, ".5", true).click("cmdDrawIt");
-        s.click("cmdPrintIt");
-        EXPECT_TRUE(s.t.faults().empty()) << angle;
-        EXPECT_EQ(s.t.count("Printer", "enddoc"), 1);
+        s.set(c.angle, c.tics).click("cmdAnimate");
+        EXPECT_EQ(int(s.t.faults().size()), c.faults) << c.angle << " " << c.tics;
+        int bases = 0;
+        for (const Stroke& st : s.canvas()) bases += st.x1 == 4000 && st.x2 == 13500;
+        EXPECT_EQ(bases, c.bases) << c.angle;
+        EXPECT_EQ(s.t.count("frmStickCurves", "cls"), 1);
     }
 }
 
-TEST(StickBadInput, MultiDrawingPastAHalfTurnIsRefusedButUpTo179DrawsTo170) {
-    StickForm s;
-    s.set("175", ".5").click("cmdAnimate");
-    EXPECT_TRUE(s.t.faults().empty());
-    int bases = 0;
-    for (const Stroke& st : s.canvas())
-        if (st.x1 == 4000 && st.y1 == 9500 && st.x2 == 13500) ++bases;
-    EXPECT_EQ(bases, 17);
-    for (const char* angle : {"180", "270", "1e9"}) {
-        StickForm r;
-        r.set(angle, ".5").click("cmdAnimate");
-        ASSERT_EQ(r.t.faults().size(), 1u) << angle;
-        EXPECT_TRUE(r.canvas().empty());
+TEST(StickBadInput, CountPastTheFillTablesIsRefusedWithAFillOnly) {
+    const struct { const char* button; const char* tics; const char* fill; bool refused; size_t black; } cases[] = {
+        {"cmdDrawIt", ".01", "optRandColor", true, 0},     // Count 829 > 100
+        {"cmdDrawIt", ".0806", "optRandColor", false, 101},  // Count 100 fills
+        {"cmdDrawIt", ".01", "optNoColor", false, 830},
+        {"cmdPrintIt", ".05", "optSame", false, 195},       // Count 194 fills
+        {"cmdPrintIt", ".04", "optSame", true, 0},          // Count 241 > 200
+        {"cmdPrintIt", ".04", "optNoColor", false, 242},
+    };
+    for (const auto& c : cases) {
+        StickForm s;
+        s.set("54", c.tics, false, c.fill).click(c.button);
+        EXPECT_EQ(s.t.faults().size(), c.refused ? 1u : 0u) << c.button << " " << c.tics;
+        const auto strokes = std::string(c.button) == "cmdDrawIt" ? s.canvas() : s.page();
+        EXPECT_EQ(black(strokes).size(), c.black) << c.button << " " << c.tics;
     }
-}
-
-TEST(StickBadInput, CountAboveTheScreenTablesIsRefusedWithAFill) {
-    StickForm s;
-    s.set("54", ".01");  // Leng 14: Count 829
-    s.click("cmdDrawIt");
-    ASSERT_EQ(s.t.faults().size(), 1u);
-    EXPECT_NE(s.t.faults()[0].find("100"), std::string::npos);
-    EXPECT_TRUE(s.canvas().empty());
-    // 100 itself fills: Leng 116 at .0806 inch gives CInt(11600 / 116) = 100.
-    s.t.clear();
-    s.set("54", ".0806").click("cmdDrawIt");
-    EXPECT_TRUE(s.t.faults().empty());
-    EXPECT_EQ(StickForm::black(s.canvas()).size(), 101u);
-    EXPECT_FALSE(StickForm::hatch(s.canvas()).empty());
-    // Without a fill the sticks alone are drawn, however many.
-    s.t.clear();
-    s.set("54", ".01", false, "optNoColor").click("cmdDrawIt");
-    EXPECT_TRUE(s.t.faults().empty());
-    EXPECT_EQ(StickForm::black(s.canvas()).size(), 830u);
 }
 
 TEST(StickBadInput, TheShortestDistancesStayQuick) {
@@ -143,6 +106,6 @@ TEST(StickBadInput, TheShortestDistancesStayQuick) {
     s.set("90", ".0007", true, "optNoColor").click("cmdDrawIt");
     s.set("90", ".0004", true, "optNoColor").click("cmdPrintIt");
     s.set("170", ".0007").click("cmdAnimate");
-    EXPECT_TRUE(s.t.faults().empty());
+    s.set("10", ".05", true).click("cmdPrintIt");  // the densest fill the page allows
     EXPECT_LT(std::chrono::steady_clock::now() - t0, std::chrono::seconds(3));
 }

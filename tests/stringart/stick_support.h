@@ -1,5 +1,5 @@
 #pragma once
-// A stick-curve form in a test program, with the inputs set in one call.
+// A stick-curve form in a test program, with its inputs set in one call.
 
 #include <string>
 #include <vector>
@@ -13,11 +13,8 @@ using namespace gp;
 
 struct StickForm {
     test::TestApp t;
-    FrmStickCurves* f;
+    FrmStickCurves* f = &t.show<FrmStickCurves>("frmStickCurves");
 
-    explicit StickForm(Single printerW = 11520, Single printerH = 15120) : t(printerW, printerH) {
-        f = &t.show<FrmStickCurves>("frmStickCurves");
-    }
     StickForm& set(const std::string& angle, const std::string& tics, bool doubled = false,
                    const std::string& fill = "optRandColor") {
         t.edit(*f, "txtAngle", angle);
@@ -27,26 +24,19 @@ struct StickForm {
         return *this;
     }
     void click(const std::string& button) { t.fire(*f, button, Event::Click); }
-
     std::vector<Stroke> canvas() const { return t.lines("frmStickCurves"); }
     std::vector<Stroke> page() const { return t.lines("Printer"); }
-    // Strokes in the foreground colour: base lines, leg walks and sticks.
-    static std::vector<Stroke> black(const std::vector<Stroke>& all) {
-        std::vector<Stroke> out;
-        for (const Stroke& s : all)
-            if (s.color == kForeground) out.push_back(s);
-        return out;
-    }
-    static std::vector<Stroke> hatch(const std::vector<Stroke>& all) {
-        std::vector<Stroke> out;
-        for (const Stroke& s : all)
-            if (s.color != kForeground) out.push_back(s);
-        return out;
-    }
 };
 
-// The Single arithmetic of a leg end: vertex + k * step, each step a Single.
-inline Single legEnd(int vertex, int k, Single step) { return Single(vertex) + Single(k) * step; }
+// Strokes in the foreground colour (bases, legs, sticks), or the hatch.
+inline std::vector<Stroke> pick(const std::vector<Stroke>& all, bool hatched) {
+    std::vector<Stroke> out;
+    for (const Stroke& s : all)
+        if ((s.color != kForeground) == hatched) out.push_back(s);
+    return out;
+}
+inline std::vector<Stroke> black(const std::vector<Stroke>& all) { return pick(all, false); }
+inline std::vector<Stroke> hatch(const std::vector<Stroke>& all) { return pick(all, true); }
 
 inline Double radians(Double degrees) { return degrees * Double(kStickPi) / 180; }
 
