@@ -63,8 +63,8 @@ private:
     Single StickDistance = 0;
 };
 
-// Draws the figure on a canvas whose scale is Wide x High (step 2 onwards of
-// a press of "Draw It"; the caller clears the canvas first).
+// The figure of "Draw It" on a canvas of the form's scale; the caller has
+// cleared the canvas.
 void DrawStickCurves(DrawingSurface& M, const StickInputs& in, StickVertex& start,
                      RandomSource& random);
 
