@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 
 namespace gp {
 
@@ -25,14 +26,66 @@ void TraceWriter::appendNumber(std::string& out, Single v) {
         out += "null";
         return;
     }
-    char tmp[32];
-    auto res = std::to_chars(tmp, tmp + sizeof tmp, v);
-    out.append(tmp, res.ptr);
+    // The shortest digits that read back to the same Single, written out
+    // in plain decimals (1247, 720.5, -0.3333333, 100000) unless the value
+    // is very large or very small, where 1e+21 or 1e-7 is the only sane way.
+    char sci[32];
+    auto res = std::to_chars(sci, sci + sizeof sci, v, std::chars_format::scientific);
+    std::string text(sci, res.ptr);
+    const size_t e = text.find('e');
+    const int exponent = std::atoi(text.c_str() + e + 1);
+    if (exponent < -7 || exponent >= 21) {
+        char tmp[32];
+        auto r = std::to_chars(tmp, tmp + sizeof tmp, v);
+        out.append(tmp, r.ptr);
+        return;
+    }
+    std::string digits;
+    for (size_t i = 0; i < e; ++i)
+        if (text[i] >= '0' && text[i] <= '9') digits += text[i];
+    if (text[0] == '-') out += '-';
+    if (exponent < 0) {
+        out += "0.";
+        out.append(static_cast<size_t>(-exponent - 1), '0');
+        out += digits;
+    } else if (digits.size() <= static_cast<size_t>(exponent) + 1) {
+        out += digits;
+        out.append(static_cast<size_t>(exponent) + 1 - digits.size(), '0');
+    } else {
+        out.append(digits, 0, static_cast<size_t>(exponent) + 1);
+        out += '.';
+        out.append(digits, static_cast<size_t>(exponent) + 1, std::string::npos);
+    }
 }
+
+namespace {
+// Length of the valid UTF-8 sequence at s[i], or 0 where the bytes are not
+// one (a text box can hold any bytes a script gives it).
+size_t utf8Length(const std::string& s, size_t i) {
+    const auto c = static_cast<unsigned char>(s[i]);
+    size_t n = c < 0x80 ? 1 : (c >> 5) == 0x6 ? 2 : (c >> 4) == 0xE ? 3 : (c >> 3) == 0x1E ? 4 : 0;
+    if (n == 0 || i + n > s.size()) return 0;
+    for (size_t k = 1; k < n; ++k)
+        if ((static_cast<unsigned char>(s[i + k]) >> 6) != 0x2) return 0;
+    return n;
+}
+} // namespace
 
 void TraceWriter::appendString(std::string& out, const std::string& s) {
     out += '"';
-    for (unsigned char c : s) {
+    for (size_t i = 0; i < s.size();) {
+        const auto c = static_cast<unsigned char>(s[i]);
+        if (c >= 0x80) {
+            const size_t n = utf8Length(s, i);
+            if (n == 0) {
+                out += "\\ufffd";  // not UTF-8: the replacement character
+                ++i;
+            } else {
+                out.append(s, i, n);
+                i += n;
+            }
+            continue;
+        }
         switch (c) {
         case '"': out += "\\\""; break;
         case '\\': out += "\\\\"; break;
@@ -50,6 +103,7 @@ void TraceWriter::appendString(std::string& out, const std::string& s) {
                 out += static_cast<char>(c);
             }
         }
+        ++i;
     }
     out += '"';
 }
