@@ -60,8 +60,18 @@ test: build asan
 fuzz: asan
 	tests/fuzz/run_fuzz.sh $(ASAN_DIR)/gridpages $(ASAN_DIR)/tests/gridpages_fuzzgen $(FUZZ_SEED) $(FUZZ_COUNT) $(JOBS)
 
+# Every benchmark of bench/; each module's figures go to
+# build/bench-results/*.json, and one table of every page kind is printed.
 bench: build
-	@for b in $(BUILD_DIR)/bench/bench_*; do [ -x "$$b" ] && QT_QPA_PLATFORM=offscreen "$$b"; done
+	@mkdir -p $(BUILD_DIR)/bench-results
+	@for b in $(BUILD_DIR)/bench/bench_*; do \
+	  case $$b in *bench_pages|*_autogen) continue;; esac; \
+	  [ -x "$$b" ] || continue; \
+	  echo "running $$(basename $$b)"; \
+	  QT_QPA_PLATFORM=offscreen "$$b" --benchmark_out=$(BUILD_DIR)/bench-results/$$(basename $$b).json \
+	    --benchmark_out_format=json > /dev/null 2>&1 || echo "$$(basename $$b) failed"; \
+	done
+	@QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/bench/bench_pages
 
 PREFIX ?= /usr/local
 

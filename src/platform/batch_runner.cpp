@@ -141,9 +141,7 @@ int BatchRunner::run(const std::vector<std::string>& lines, const std::string& f
     lines_ = &lines;
     next_ = 0;
     try {
-        app_ = std::make_unique<FormSet>(*this, *this, printer_, random_, *this);
-        registerForms(*app_);
-        app_->start("frmGrids");
+        start(registerForms);
         runUntil(nullptr);
     } catch (const ScriptError& e) {
         trace_.flush();
@@ -152,6 +150,14 @@ int BatchRunner::run(const std::vector<std::string>& lines, const std::string& f
     }
     trace_.flush();
     return 0;
+}
+
+void BatchRunner::start(void (*registerForms)(FormSet&)) {
+    static const std::vector<std::string> none;
+    if (!lines_) lines_ = &none;
+    app_ = std::make_unique<FormSet>(*this, *this, printer_, random_, *this);
+    registerForms(*app_);
+    app_->start("frmGrids");
 }
 
 void BatchRunner::runUntil(Form* modal) {

@@ -48,6 +48,14 @@ public:
     int run(const std::vector<std::string>& lines, const std::string& fileName,
             void (*registerForms)(FormSet&), std::FILE* err);
 
+    // Line by line, for programs that time single commands: start() puts
+    // the menu on show, execute() runs one script line (throwing
+    // ScriptError for a bad one).
+    void start(void (*registerForms)(FormSet&));
+    void execute(const std::string& line);
+    const TraceWriter& trace() const { return trace_; }
+    QString lastSheet() const { return pdf_ ? pdf_->lastFile() : QString(); }
+
     // Dialogs
     int MsgBox(const std::string& prompt, int buttons, const std::string& title) override;
     std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText,
@@ -71,7 +79,6 @@ public:
 
 private:
     void runUntil(Form* modal);
-    void execute(const std::string& line);
     Form& current();
     Control& control(const std::string& name);
     void tick(int count);

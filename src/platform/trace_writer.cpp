@@ -153,6 +153,7 @@ void TraceWriter::end() {
 }
 
 void TraceWriter::line(const std::string& surface, const Stroke& s) {
+    ++strokes_;
     if (!out_) return;
     begin(surface, "line");
     num("x1", s.x1);
@@ -166,6 +167,7 @@ void TraceWriter::line(const std::string& surface, const Stroke& s) {
 }
 
 void TraceWriter::pset(const std::string& surface, Single x, Single y, int width, long color) {
+    ++strokes_;
     if (!out_) return;
     begin(surface, "pset");
     num("x", x);
@@ -177,6 +179,7 @@ void TraceWriter::pset(const std::string& surface, Single x, Single y, int width
 
 void TraceWriter::print(const std::string& surface, Single x, Single y, const std::string& text,
                         const FontSpec& font) {
+    ++strokes_;
     if (!out_) return;
     begin(surface, "print");
     num("x", x);

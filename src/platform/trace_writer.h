@@ -17,6 +17,8 @@ public:
     ~TraceWriter();
 
     bool enabled() const { return out_ != nullptr; }
+    // Drawing calls written so far (lines, dots, texts).
+    long strokes() const { return strokes_; }
 
     void line(const std::string& surface, const Stroke& s);
     void pset(const std::string& surface, Single x, Single y, int width, long color);
@@ -51,6 +53,7 @@ private:
 
     std::FILE* out_;
     std::string buf_;
+    long strokes_ = 0;
 };
 
 // A device that writes every call made to one surface into the trace.
