@@ -13,7 +13,7 @@ PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev \
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test bench install fuzz asan clean
+.PHONY: all deps configure build run test bench install fuzz asan pictures clean
 
 all: build
 
@@ -72,6 +72,14 @@ bench: build
 	    --benchmark_out_format=json > /dev/null 2>&1 || echo "$$(basename $$b) failed"; \
 	done
 	@QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/bench/bench_pages
+
+# The guide's pictures in docs/pictures: the sheets from their PDFs, the
+# forms from the real windows under Xvfb.
+pictures: build
+	@dpkg-query -W -f='$${Status}' xvfb 2>/dev/null | grep -q 'install ok installed' || \
+	  { $(SUDO) apt-get update -qq && DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq xvfb xauth; }
+	cmake --build $(BUILD_DIR) -j $(JOBS) --target gridpages_shots
+	tools/make_pictures.sh $(BUILD_DIR) docs/pictures
 
 PREFIX ?= /usr/local
 
