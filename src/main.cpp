@@ -46,8 +46,12 @@ int main(int argc, char** argv) {
         QGuiApplication app(qargc, argv);
         return gp::runBatch(options, gp::registerAllForms);
     }
+    // Fractional screen scales (125 %, 150 %) are used as they are, so the
+    // canvas images, drawn at the screen's own pixel ratio, stay crisp.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication app(argc, argv);
     QApplication::setApplicationName("gridpages");
+    QApplication::setDesktopFileName("gridpages");
     QApplication::setQuitOnLastWindowClosed(false);
     return gp::runWindowed(gp::registerAllForms);
 }

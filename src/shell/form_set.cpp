@@ -1,6 +1,7 @@
 #include "shell/form_set.h"
 
 #include <new>
+#include <stdexcept>
 
 namespace gp {
 
@@ -123,6 +124,10 @@ void FormSet::guarded(Form& form, const std::function<void()>& work) {
     } catch (const std::bad_alloc&) {
         printer_.abortPage();
         dialogs_.showFault("There is not enough memory to draw this. Please try other values.");
+    } catch (const std::exception& e) {
+        // A fault of the program itself: the user still keeps the form.
+        printer_.abortPage();
+        dialogs_.showFault(std::string("This could not be done: ") + e.what());
     }
     }
     meter_.restore(outerWork);
