@@ -126,8 +126,14 @@ void FrmExplodeIt::PlotIt(const Integer& k) {
 }
 
 void FrmExplodeIt::PlotLoadedTable() {
-    const auto keptX = PtX, keptY = PtY;
     const Integer zero = 0;
+    // Once Begin has read the user's matrix, a Multiplier frame multiplies the
+    // loaded shape in place like any other frame.
+    if (matrixTaken_) {
+        PlotIt(zero);
+        return;
+    }
+    const auto keptX = PtX, keptY = PtY;
     try {
         PlotIt(zero);
     } catch (const Fault&) {
@@ -135,9 +141,9 @@ void FrmExplodeIt::PlotLoadedTable() {
         PtY = keptY;
         throw;
     }
-    // A Multiplier frame drawn on loading shows the product but keeps the
-    // shape as loaded, so the next Begin starts from the plain shape (and a
-    // matrix not yet read, all zeros, cannot wipe it out).
+    // The matrix is still all zeros: the frame shows that product, but the
+    // shape stays as loaded, so that the next Begin does not start from a
+    // table wiped out to the origin.
     PtX = keptX;
     PtY = keptY;
 }
@@ -254,16 +260,18 @@ void FrmExplodeIt::Form_MouseDown(Single X, Single Y) {
                   kGraphOriginY - kGraphUnit * Double(PtY[i - 1]), X, Y);
         if (i < 12) ShowPoint(i, PtX[i], PtY[i]);
         ClickCount += 1;
+        savedIsTable_ = false;
     } else if (ClickCount == 1) {
         PtX[1] = CSng((Double(X) - kGraphOriginX) / kGraphUnit);
         PtY[1] = CSng((kGraphOriginY - Double(Y)) / kGraphUnit);
         ShowPoint(1, PtX[1], PtY[1]);
         Me().PSet(X, Y);
         ClickCount += 1;
+        savedIsTable_ = false;
     }
-    // Before any New Graph this makes the table empty (-1).
+    // Before any New Graph this makes the table empty (-1); a click on a full
+    // table stores nothing and leaves the saved shape the one on show.
     PointCount = ClickCount - 1;
-    savedIsTable_ = false;
 }
 
 // ---------------------------------------------------------------- the run
@@ -281,6 +289,7 @@ void FrmExplodeIt::cmdBegin_Click() {
         R12 = r12;
         R21 = r21;
         R22 = r22;
+        matrixTaken_ = true;
     }
     for (int i = 1; i <= PointCount; ++i) {
         SavedX[i] = PtX[i];
@@ -291,10 +300,15 @@ void FrmExplodeIt::cmdBegin_Click() {
 }
 
 void FrmExplodeIt::Timer1_Timer() {
-    if (optUp.Value() && PointCount >= 2 && StepIndex >= kUpLastFrame) {
-        // Frame 137 and on cannot be placed in Up mode. Stop once, with the
-        // last frame left on show, rather than fail on every tick; the
-        // counter starts again so that the next Begin can run.
+    // Frame 137 and on cannot be placed in Up mode. At the end of a cycle the
+    // frame would be wiped in this same tick, so it is left out and the cycle
+    // wraps as usual.
+    const bool cannotPlace = optUp.Value() && PointCount >= 2 && StepIndex >= kUpLastFrame;
+    const bool wrapsNow = StepIndex >= StepCount;
+    if (cannotPlace && !wrapsNow) {
+        // A frame that would stay on show: stop once, with the last frame
+        // left on show, rather than fail on every tick; the counter starts
+        // again so that the next Begin can run.
         StopRun();
         StepIndex = 0;
         throwInvalid("The run has stopped: in Up mode the shape can slide for 136 frames at most. "
@@ -304,7 +318,7 @@ void FrmExplodeIt::Timer1_Timer() {
         StepIndex += 1;
         Me().Cls();
         PrintCounter();
-        PlotIt(StepIndex);
+        if (!cannotPlace) PlotIt(StepIndex);
         if (StepIndex <= StepCount) return;
         // The cycle is over: frame 0 replaces the frame just drawn, in the same tick.
         StepIndex = 0;

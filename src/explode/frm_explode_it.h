@@ -45,8 +45,8 @@ public:
 private:
     // One frame of the table on the canvas, without clearing it first.
     void PlotIt(const Integer& k);
-    // A frame that a menu choice or the form's opening draws: the table is
-    // left as it was loaded, even in Multiplier mode.
+    // The first frame of a table just loaded by a sample or the opening. In
+    // Multiplier mode before any matrix was read the table is kept as loaded.
     void PlotLoadedTable();
     void LoadSample(const SampleShape& shape);
     void ShowPoint(int i, Double x, Double y);
@@ -84,6 +84,8 @@ private:
     // a Begin with no sample, clicks or opening loaded since. Plot Points and
     // Quit bring the table back from them only then.
     bool savedIsTable_ = false;
+    // True once a Begin in Multiplier mode has read R11 to R22.
+    bool matrixTaken_ = false;
 };
 
 } // namespace gp

@@ -158,6 +158,22 @@ TEST(ExplodeWaysOut, ExitHidesAndTheRunGoesOnWhileHidden) {
     EXPECT_EQ(e.counters().back(), " 6 ");
 }
 
+TEST(ExplodeWaysOut, ShownAgainInMultiplierModeTheRunnerIsMultipliedOnce) {
+    Explode e;
+    e.option("optMultiplier");
+    e.click("cmdBegin");
+    e.tick(3);
+    e.click("cmdExit");
+    e.t.clear();
+    e.open();
+    // The reloaded runner is sheared once while it is drawn; the run goes on from there.
+    EXPECT_EQ(e.frame()[0].x1, formX(-2.3f + 2));
+    EXPECT_FLOAT_EQ(e.f().ptX(1), -2.3f + 2);
+    e.t.clear();
+    e.tick();
+    EXPECT_EQ(e.frame()[0].x1, formX(-2.3f + 2 * 2));
+}
+
 TEST(ExplodeWaysOut, MenuExitHidesKeyAndFrameUnload) {
     {
         Explode e;

@@ -142,9 +142,15 @@ TEST(ExplodeSamples, ASampleClearsFirstAndKeepsLaterTableEntries) {
     for (size_t i = 0; i < first.size(); ++i) EXPECT_EQ(first[i].x2, again[i].x2);
 }
 
-TEST(ExplodeSamples, MultiplierModeDrawsTheProductButLoadsThePlainShape) {
+TEST(ExplodeSamples, MultiplierModeKeepsThePlainShapeOnlyUntilTheMatrixIsRead) {
     Explode e;
     e.option("optMultiplier");
+    // No matrix read yet: the frame shows the all-zero product, the table
+    // stays the plain squares.
+    e.menu("mnuSquares");
+    for (const Stroke& s : e.frame()) EXPECT_EQ(s.x1, 6000);
+    EXPECT_FLOAT_EQ(e.f().ptY(2), 4.0f);
+
     e.click("cmdBegin");  // reads the shear
     e.click("cmdQuit");
     e.menu("mnuSquares");
@@ -152,11 +158,12 @@ TEST(ExplodeSamples, MultiplierModeDrawsTheProductButLoadsThePlainShape) {
     EXPECT_EQ(l[0].x1, formX(-4));  // (-4, 0) sheared stays
     EXPECT_EQ(l[0].x2, formX(4));   // (0, 4) becomes (4, 4)
     EXPECT_EQ(e.text("txtX", 1), " 4");
-    EXPECT_FLOAT_EQ(e.f().ptX(2), 0.0f);
-    // A run from here starts at the plain squares: frame 1 is one shear.
+    // The loaded table is multiplied in place, so a run goes on from there:
+    // frame 1 shows the second shear.
+    EXPECT_FLOAT_EQ(e.f().ptX(2), 4.0f);
     e.click("cmdBegin");
     e.tick();
-    EXPECT_EQ(e.frame()[0].x2, formX(4));
+    EXPECT_EQ(e.frame()[0].x2, formX(8));
 }
 
 TEST(ExplodeClicks, OnlyStrictlyInsideTheGraphAreaCounts) {
@@ -243,6 +250,18 @@ TEST(ExplodeClicks, TheTableStopsAt199Points) {
     e.click("cmdPlotPoints");
     EXPECT_EQ(e.frame().size(), 198u);
     EXPECT_TRUE(e.t.faults().empty());
+
+    // A click on the full table stores nothing, so after a Multiplier run
+    // Plot Points still brings the table of Begin back.
+    e.edit("txtr11", "2");
+    e.edit("txtr12", "0");
+    e.option("optMultiplier");
+    e.click("cmdBegin");
+    e.tick(2);
+    e.mouse(6000, 5400);
+    e.click("cmdPlotPoints");
+    EXPECT_EQ(e.text("txtX", 10), "-18.8");
+    EXPECT_FLOAT_EQ(e.f().ptX(11), -18.75f);
 }
 
 TEST(ExplodeClicks, AClickAfterASampleCutsTheTableAtTheOldCount) {

@@ -258,16 +258,35 @@ TEST(ExplodeRunLimits, UpModeStopsOnceBeforeFrame137) {
     EXPECT_EQ(e.counters().back(), " 1 ");
 }
 
-TEST(ExplodeRunLimits, UpModeWithSteps136StopsAtTheWrap) {
+TEST(ExplodeRunLimits, UpModeWrapsPastFrame136WithoutDrawingIt) {
     Explode e;
     e.option("optUp");
     e.edit("txtSteps", "136");
     e.click("cmdBegin");
     e.tick(136);
-    EXPECT_TRUE(e.t.faults().empty());
+    // Frame 137 would be wiped in its own tick: the cycle wraps to frame 0.
+    e.t.clear();
     e.tick();
-    EXPECT_EQ(e.t.faults().size(), 1u);
-    EXPECT_EQ(e.counters().back(), " 136 ");
+    EXPECT_TRUE(e.t.faults().empty());
+    EXPECT_EQ(e.counters(), (std::vector<std::string>{" 137 ", " 0 "}));
+    EXPECT_EQ(e.t.count(kForm, "cls"), 2);
+    EXPECT_EQ(e.t.count(kForm, "line"), 23);
+    EXPECT_EQ(e.frame()[0].y1, 4800);  // frame 0 at Start .5
+    EXPECT_TRUE(e.timer().Enabled());
+
+    // A counter left high by a longer run in another mode wraps the same way.
+    e.option("optScalar");
+    e.edit("txtSteps", "200");
+    e.click("cmdBegin");
+    e.tick(150);
+    e.option("optUp");
+    e.edit("txtSteps", "10");
+    e.click("cmdBegin");
+    e.tick();
+    EXPECT_TRUE(e.t.faults().empty());
+    EXPECT_EQ(e.counters().back(), " 0 ");
+    e.tick();
+    EXPECT_EQ(e.counters().back(), " 1 ");
 }
 
 TEST(ExplodeRunLimits, UpModeWithAnEmptyTableHasNothingToPlace) {
