@@ -9,10 +9,10 @@ namespace gp {
 
 StickColour FreshStickColour(RandomSource& random) {
     StickColour c;
-    c.red = CInt(random.Rnd() * 255.0f);
-    c.green = CInt(random.Rnd() * 255.0f);
-    c.blue = CInt(random.Rnd() * 255.0f);
-    c.Parity = Int(random.Rnd() * 2.0f);
+    c.red = CInt(random.Rnd() * 255.0);
+    c.green = CInt(random.Rnd() * 255.0);
+    c.blue = CInt(random.Rnd() * 255.0);
+    c.Parity = Int(random.Rnd() * 2.0);
     return c;
 }
 
@@ -37,13 +37,12 @@ void StickCrossings::build(Integer Leng, Integer Count, Single legStepX, Single 
     slope_[at(0)] = rightAngle ? 0.0f : CSng(-1 / std::tan(StickAngle));
     for (int k = 0; k <= Count; ++k) {
         baseTic_[at(k)] = IMul(Leng, k);
-        legTicX_[at(k)] = Single(k) * legStepX;
-        legTicY_[at(k)] = legStepY * Single(k);
+        legTicX_[at(k)] = CSng(k * Double(legStepX));
+        legTicY_[at(k)] = CSng(Double(legStepY) * k);
     }
     for (int i = 1; i <= Count - 1; ++i) {
-        const Single rise = LegTicY(Count - i);
-        if (rise == 0) throwDivisionByZero();
-        slope_[at(i)] = (Single(BaseTic(i)) - LegTicX(Count - i)) / rise;
+        // Worked in Double, stored as a Single.
+        slope_[at(i)] = CSng(Div(BaseTic(i) - Double(LegTicX(Count - i)), LegTicY(Count - i)));
     }
     for (int i = 0; i <= Count; ++i) {
         crossX_[cell(i, Count)] = Single(BaseTic(i));
@@ -55,10 +54,9 @@ void StickCrossings::build(Integer Leng, Integer Count, Single legStepX, Single 
     // x from that rounded height.
     for (int i = 1; i <= Count - 2; ++i) {
         for (int j = i + 1; j <= Count - 1; ++j) {
-            const Single apart = StickSlope(i) - StickSlope(j);
-            if (apart == 0) throwDivisionByZero();
-            const Integer T = CInt((CrossX(j, Count) - CrossX(i, Count)) / apart);
-            crossX_[cell(i, j)] = Single(CInt(Single(T) * StickSlope(i) + CrossX(i, Count)));
+            const Double apart = Double(StickSlope(i)) - StickSlope(j);
+            const Integer T = CInt(Div(Double(CrossX(j, Count)) - CrossX(i, Count), apart));
+            crossX_[cell(i, j)] = Single(CInt(T * Double(StickSlope(i)) + CrossX(i, Count)));
             crossY_[cell(i, j)] = Single(-T);
         }
     }

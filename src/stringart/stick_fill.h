@@ -74,14 +74,15 @@ void StickCrossings::hatch(Integer Count, Integer Parity, Emit&& emit) const {
             if ((i + j) % 2 != Parity) continue;
             // The cell lies between sticks i - 1 and i, and between sticks
             // j - 1 and j; its height is measured on stick i - 1.
-            const Integer Rows = Int((CrossY(i - 1, j) - CrossY(i - 1, j - 1)) / -1.0f);
+            const Integer Rows = Int((Double(CrossY(i - 1, j)) - CrossY(i - 1, j - 1)) / -1);
             if (Rows == 0) sameHeight();
-            const Single Rise = (CrossY(i, j) - CrossY(i, j - 1)) / Single(-Rows);
+            const Single Rise = CSng((Double(CrossY(i, j)) - CrossY(i, j - 1)) / -Rows);
             for (int t = 0; t <= Rows; ++t) {
-                const Integer a = Int(CrossY(i - 1, j - 1) - Single(t));
-                const Integer b = Int(CrossY(i, j - 1) - Single(t) * Rise);
-                const Integer c = Int(-StickSlope(i - 1) * Single(a) + CrossX(i - 1, Count));
-                const Integer d = Int(-StickSlope(i) * Single(b) + CrossX(i, Count));
+                // Worked in Double from the Single tables, floored to whole units.
+                const Integer a = Int(CrossY(i - 1, j - 1) - Double(t));
+                const Integer b = Int(CrossY(i, j - 1) - t * Double(Rise));
+                const Integer c = Int(-Double(StickSlope(i - 1)) * a + CrossX(i - 1, Count));
+                const Integer d = Int(-Double(StickSlope(i)) * b + CrossX(i, Count));
                 emit(a, b, c, d);
             }
         }

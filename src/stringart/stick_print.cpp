@@ -19,10 +19,10 @@ constexpr int kPageFillBound = 200;
 
 void PrintStickCurves(DrawingSurface& P, const StickInputs& in, StickVertex& start,
                       RandomSource& random, Single timer) {
-    CheckStickAngle(in.degrees);
     const Double StickAngle = in.radians();
+    CheckStickAngle(StickAngle);
     // The page rounds the mark distance to nearest where the screen floors.
-    const Integer Leng = CInt(in.distance * 1440.0f);
+    const Integer Leng = CInt(in.distance * 1440.0);
     CheckStickLeng(Leng);
     const Single StepSin = CSng(Leng * std::sin(StickAngle));
     const Single StepCos = CSng(Leng * std::cos(StickAngle));
@@ -30,26 +30,26 @@ void PrintStickCurves(DrawingSurface& P, const StickInputs& in, StickVertex& sta
     start.StartY = 200;
 
     // The leg length that reaches the page's right side.
-    const Single Limit = CSng((P.ScaleWidth() - 200.0f) / std::sin(StickAngle));
+    const Single Limit = CSng((P.ScaleWidth() - 200.0) / std::sin(StickAngle));
     const Double turned = std::cos(Double(kStickPi) - StickAngle);
     Single Length;
     if (!in.doubled && in.degrees > 90) {
-        Length = CSng((P.ScaleHeight() - 200.0f) / (1 - std::cos(StickAngle)));
+        Length = CSng((P.ScaleHeight() - 200.0) / (1 - std::cos(StickAngle)));
         if (Limit < Length) Length = Limit;
         start.StartY = CInt(Int(Length * turned) + 200);
     } else if (!in.doubled) {
-        Length = P.ScaleHeight() - 200.0f;
+        Length = CSng(P.ScaleHeight() - 200.0);
         if (Limit < Length) Length = Limit;
     } else if (in.degrees > 90) {
-        Length = CSng((P.ScaleHeight() - 300.0f) / (1 - std::cos(StickAngle)));
+        Length = CSng((P.ScaleHeight() - 300.0) / (1 - std::cos(StickAngle)));
         if (Limit < Length) Length = Limit;
         start.StartY = Int(Length * turned);
     } else {
-        Length = CSng((P.ScaleHeight() - 300.0f) / (1 + std::cos(StickAngle)));
+        Length = CSng((P.ScaleHeight() - 300.0) / (1 + std::cos(StickAngle)));
         if (Limit < Length) Length = Limit;
     }
     // Count is a Double that holds a whole number; the loops run to CInt(Count).
-    const Double Count = Int(Length / Single(Leng));
+    const Double Count = Int(Double(Length) / Leng);
     const Integer last = CInt(Count);
     StickCrossings table(in.filled() ? kPageFillBound : 0);
     if (in.filled()) {
@@ -63,8 +63,8 @@ void PrintStickCurves(DrawingSurface& P, const StickInputs& in, StickVertex& sta
     }
 
     for (int k = 0; k <= last; ++k)
-        P.Line(start.StartX, (Count - k) * Leng + start.StartY,
-               Single(k) * StepSin + Single(start.StartX), Single(k) * StepCos + Single(start.StartY));
+        P.Line(start.StartX, (Count - k) * Leng + start.StartY, k * Double(StepSin) + start.StartX,
+               k * Double(StepCos) + start.StartY);
 
     StickColour colour{};
     long rgb = 0;
@@ -87,8 +87,8 @@ void PrintStickCurves(DrawingSurface& P, const StickInputs& in, StickVertex& sta
     start.StartY = CInt((Leng * Count) * (1 + std::cos(StickAngle)) + start.StartY);
     start.StartX = CInt(Leng * Count * std::sin(StickAngle) + start.StartX);
     for (int k = 0; k <= last; ++k)
-        P.Line(start.StartX, -(Count - k) * Leng + start.StartY,
-               -StepSin * Single(k) + Single(start.StartX), -StepCos * Single(k) + Single(start.StartY));
+        P.Line(start.StartX, -(Count - k) * Leng + start.StartY, -Double(StepSin) * k + start.StartX,
+               -Double(StepCos) * k + start.StartY);
     if (in.filled()) {
         // The crossings of the first side serve again; only the colour may
         // be drawn anew.

@@ -23,14 +23,12 @@ struct ScreenFigure {
     // leg. The base end is whole (16-bit sums); the leg end is a Single.
     void stick(int k) const {
         const Integer x1 = Integer(start.StartX + IMul(Integer(Count - k), Leng));
-        M.Line(x1, start.StartY, Single(start.StartX) + Single(k) * StepX,
-               Single(start.StartY) + Single(k) * StepY);
+        M.Line(x1, start.StartY, start.StartX + k * Double(StepX), start.StartY + k * Double(StepY));
     }
     // The same stick of the side turned through a half turn.
     void turnedStick(int k) const {
         const Integer x1 = Integer(start.StartX - IMul(Integer(Count - k), Leng));
-        M.Line(x1, start.StartY, Single(start.StartX) - Single(k) * StepX,
-               Single(start.StartY) - Single(k) * StepY);
+        M.Line(x1, start.StartY, start.StartX - k * Double(StepX), start.StartY - k * Double(StepY));
     }
 
     // sign +1 paints the first side, -1 the turned one.
@@ -57,9 +55,9 @@ void DrawStickCurves(DrawingSurface& M, const StickInputs& in, StickVertex& star
                      RandomSource& random) {
     const Single Wide = M.ScaleWidth();
     const Single High = M.ScaleHeight();
-    CheckStickAngle(in.degrees);
     const Double StickAngle = in.radians();
-    const Integer Leng = Int(in.distance * 1440.0f);
+    CheckStickAngle(StickAngle);
+    const Integer Leng = Int(in.distance * 1440.0);
     CheckStickLeng(Leng);
     const Single StepY = CSng(-Leng * std::sin(StickAngle));
     const Single StepX = CSng(Leng * std::cos(StickAngle));
@@ -68,24 +66,24 @@ void DrawStickCurves(DrawingSurface& M, const StickInputs& in, StickVertex& star
     start.StartY = CInt(High - 500.0f);
 
     // The leg length that reaches the top edge.
-    const Single Limit = CSng((High - 500.0f) / std::sin(StickAngle));
+    const Single Limit = CSng((High - 500.0) / std::sin(StickAngle));
     Integer Count;
     if (in.degrees > 90) {
         // The leg leans left: the vertex moves right so that it ends near
         // the panel.
-        Single Length = CSng((Wide - Single(start.StartX)) / (1 - std::cos(StickAngle)));
+        Single Length = CSng((Wide - Double(start.StartX)) / (1 - std::cos(StickAngle)));
         if (Limit < Length) Length = Limit;
-        Count = Int(Length / Single(Leng));
+        Count = Int(Double(Length) / Leng);
         start.StartX = CInt(Int(Length * std::cos(Double(kStickPi) - StickAngle)) + start.StartX);
     } else if (!in.doubled) {
-        Count = CInt((Wide - Single(start.StartX)) / Single(Leng));
+        Count = CInt((Wide - Double(start.StartX)) / Leng);
         if (IMul(Leng, Count) * std::sin(StickAngle) > start.StartY)
             Count = CInt(start.StartY / (Leng * std::sin(StickAngle)));
     } else {
         // A rhombus is as wide as Length * (1 + cos).
-        Single Length = CSng((Wide - Single(start.StartX)) / (1 + std::cos(StickAngle)));
+        Single Length = CSng((Wide - Double(start.StartX)) / (1 + std::cos(StickAngle)));
         if (Limit < Length) Length = Limit;
-        Count = Int(Length / Single(Leng));
+        Count = Int(Double(Length) / Leng);
     }
     if (in.filled()) CheckStickCount(Count, kScreenFillBound);
 

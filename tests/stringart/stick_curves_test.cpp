@@ -26,8 +26,9 @@ TEST(StickScreen, DefaultsGiveLeng720Count16AndTheVertexAt2400By9500) {
     const Single StepY = Single(-720 * std::sin(radians(54)));
     for (int k = 1; k <= 16; ++k) {
         EXPECT_EQ(b[k].x1, 2400 + (16 - k) * 720);
-        EXPECT_EQ(b[k].x2, Single(2400) + Single(k) * StepX) << k;
-        EXPECT_EQ(b[k].y2, Single(9500) + Single(k) * StepY) << k;
+        // Worked in Double from the Single steps, rounded once as it is passed.
+        EXPECT_EQ(b[k].x2, Single(2400 + k * Double(StepX))) << k;
+        EXPECT_EQ(b[k].y2, Single(9500 + k * Double(StepY))) << k;
     }
     EXPECT_FALSE(hatch(s.canvas()).empty());
 }
@@ -57,10 +58,10 @@ TEST(StickScreen, TurnedSideOfTheRhombus) {
     EXPECT_EQ(b[0].x2, 2400 + 7200);
     EXPECT_EQ(s.f->vertex().StartY, 3675);
     EXPECT_EQ(b[21].x1, 13832); EXPECT_EQ(b[21].x2, 13832 - 7200);
-    EXPECT_EQ(b[22].x2, Single(13832) - StepX);
+    EXPECT_EQ(b[22].x2, Single(13832 - Double(StepX)));
     EXPECT_EQ(b[31].x1, b[30].x2);  // a walk of Line -Step
     EXPECT_EQ(b[42].x1, 13832);     // the last stick is the turned leg
-    EXPECT_EQ(b[42].x2, Single(13832) - Single(10) * StepX);
+    EXPECT_EQ(b[42].x2, Single(13832 - 10 * Double(StepX)));
 }
 
 TEST(StickScreen, OneColourPerSideByTheOptions) {
@@ -125,8 +126,8 @@ TEST(StickPrint, AxesExchangedCIntAndTheTurnedSide) {
     const Single StepSin = Single(720 * std::sin(radians(54)));
     const Single StepCos = Single(720 * std::cos(radians(54)));
     EXPECT_EQ(p[0].x1, 200); EXPECT_EQ(p[0].y1, 19 * 720 + 200);  // the base, down the left
-    EXPECT_EQ(p[19].x2, Single(19) * StepSin + Single(200));
-    EXPECT_EQ(p[19].y2, Single(19) * StepCos + Single(200));
+    EXPECT_EQ(p[19].x2, Single(19 * Double(StepSin) + 200));
+    EXPECT_EQ(p[19].y2, Single(19 * Double(StepCos) + 200));
     EXPECT_EQ(s.t.count("Printer", "enddoc"), 1);
     EXPECT_EQ(s.t.count("frmStickCurves", "cls"), 0);
 
@@ -145,7 +146,7 @@ TEST(StickPrint, AxesExchangedCIntAndTheTurnedSide) {
     EXPECT_EQ(d.f->vertex().StartX, 7190);
     EXPECT_EQ(d.f->vertex().StartY, 13918);
     EXPECT_EQ(p[13].y1, -12 * 720 + 13918);
-    EXPECT_EQ(p[25].x2, -StepSin * Single(12) + Single(7190));
+    EXPECT_EQ(p[25].x2, Single(-Double(StepSin) * 12 + 7190));
 }
 
 TEST(StickPrint, FillIsTwoWideAndStaysTwoForTheTurnedSticks) {
@@ -155,8 +156,12 @@ TEST(StickPrint, FillIsTwoWideAndStaysTwoForTheTurnedSticks) {
     int sticks = 0;
     for (const Stroke& st : s.page()) {
         if (st.color != kForeground) colours.insert(st.color);
-        if (st.color == kForeground && ++sticks > 13) EXPECT_EQ(st.width, 2);
-        if (st.color != kForeground) EXPECT_EQ(st.width, 2);
+        if (st.color == kForeground && ++sticks > 13) {
+            EXPECT_EQ(st.width, 2);
+        }
+        if (st.color != kForeground) {
+            EXPECT_EQ(st.width, 2);
+        }
     }
     EXPECT_EQ(sticks, 26);
     EXPECT_EQ(colours.size(), 2u);
@@ -173,7 +178,7 @@ TEST(StickMulti, FiguresOf10To50ForTheDefaultsAndMarksKeptOnTheBase) {
     int bases = 0;
     for (const Stroke& st : s.canvas()) bases += st.x1 == 4000 && st.x2 == 13500 && st.y2 == 9500;
     EXPECT_EQ(bases, 5);  // never 54: the steps are of 10
-    EXPECT_EQ(s.f->stickAngle(), Double(Single(50.0f * kStickPi / 180.0f)));
+    EXPECT_EQ(s.f->stickAngle(), Double(Single(50 * Double(kStickPi) / 180)));
 
     // At 10 degrees and Leng 72 the leg is walked until its next mark would
     // pass 13900; the sticks are cut to Int(9500 / 72) = 131.
@@ -182,9 +187,46 @@ TEST(StickMulti, FiguresOf10To50ForTheDefaultsAndMarksKeptOnTheBase) {
     const auto l = s.canvas();
     size_t walk = 2;
     while (walk < l.size() && l[walk].x1 == l[walk - 1].x2) ++walk;
-    const Single StepX = Single(72 * std::cos(Double(Single(10.0f * kStickPi / 180.0f))));
-    EXPECT_LT(4000 + Single(walk - 1) * StepX, 13900);
-    EXPECT_GE(4000 + Single(walk) * StepX, 13900);
+    const Single StepX = Single(72 * std::cos(Double(Single(10 * Double(kStickPi) / 180))));
+    EXPECT_LT(4000 + Double(walk - 1) * StepX, 13900);
+    EXPECT_GE(4000 + Double(walk) * StepX, 13900);
     EXPECT_EQ(l.size() - walk, 131u);
     EXPECT_EQ(l[walk].x1, 4000 + 130 * 72);
+}
+
+// The distance is a Single but the arithmetic on it is Double: a Single
+// product would round 0.7f * 1440 = 1007.99998 up to 1008 before the floor,
+// and Single sums would move stick ends and hatch lines by a unit.
+TEST(StickArithmetic, DoubleWorkOnSingleValues) {
+    StickForm s;
+    s.set("54", ".7", false, "optNoColor").click("cmdDrawIt");
+    s.click("cmdPrintIt");
+    const auto b = black(s.canvas());
+    EXPECT_EQ(b[1].x1 - b[2].x1, 1007);  // Int on the screen
+    const auto p = s.page();
+    EXPECT_EQ(p[0].y1 - p[1].y1, 1008);  // CInt on the page
+
+    // Leng 720 at 54 degrees, 12 marks: the page's first side.
+    const Double a = radians(54);
+    StickCrossings t(200);
+    t.build(720, 12, Single(720 * std::cos(a)), Single(720 * std::sin(a)), false, a);
+    bool found = false;
+    t.hatch(12, 0, [&](Integer ha, Integer hb, Integer hc, Integer hd) {
+        if (ha == 4717 && hc == 3617) {
+            EXPECT_EQ(int(hb), 4287);
+            EXPECT_EQ(int(hd), 3494);
+            found = true;
+        }
+    });
+    EXPECT_TRUE(found);
+
+    // MultiDrawing1 at 10 degrees: the angle is worked in Double, then
+    // stored as a Single; Single steps give 0.17453290522.
+    StickForm m;
+    m.set("10", ".5").click("cmdAnimate");
+    EXPECT_EQ(m.f->stickAngle(), Double(Single(10 * Double(kStickPi) / 180)));
+    EXPECT_NE(m.f->stickAngle(), Double(10.0f * kStickPi / 180.0f));
+    const auto l = m.canvas();
+    const Single StepX = Single(720 * std::cos(m.f->stickAngle()));
+    EXPECT_EQ(l.back().x2, Single(4000 + 13 * Double(StepX)));  // the last stick is the leg, 13 marks
 }
