@@ -1,6 +1,7 @@
 #include "stringart/frm_stick_curves.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "shell/form_set.h"
 
@@ -107,15 +108,18 @@ void FrmStickCurves::txtAngle_LostFocus() {
 
 void FrmStickCurves::cmdExit_Click() { Hide(); }
 
-void CheckStickAngle(Double degrees) {
-    if (!(degrees >= 10 && degrees <= 170))
-        throwInvalid("Nothing was drawn: the angle must be from 10 to 170 degrees.");
+void CheckStickAngle(Double StickAngle) {
+    // The form's limits of 10 and 170 act only as the angle is typed or
+    // stepped; a drawing takes any angle whose leg has a height.
+    if (std::sin(StickAngle) == 0)
+        throwInvalid("Nothing was drawn: an angle of 0 degrees gives no figure. Please enter an "
+                     "angle from 10 to 170 degrees.");
 }
 
 void CheckStickLeng(Integer Leng) {
-    if (Leng < 1)
-        throwInvalid("Nothing was drawn: please enter a distance between the marks that is more "
-                     "than 0 inches, such as .5");
+    if (Leng == 0)
+        throwInvalid("Nothing was drawn: please enter a distance between the marks of at least "
+                     "1/1440 inch, such as .5");
 }
 
 void CheckStickCount(Integer Count, int bound) {

@@ -81,7 +81,7 @@ void DrawStickMulti(DrawingSurface& M, const std::string& angleText, const std::
 // Refusals shared by the three drawings: they stop a press before a stroke
 // is drawn, where the figure would divide by zero, never end or run past
 // the fill's tables.
-void CheckStickAngle(Double degrees);
+void CheckStickAngle(Double StickAngle);
 void CheckStickLeng(Integer Leng);
 void CheckStickCount(Integer Count, int bound);
 

@@ -45,8 +45,7 @@ TEST(StickAngleError, LimitsAreInclusiveAndTheMessageHasTheStopIcon) {
 TEST(StickBadInput, NoDistanceOrNoAngleDrawsNothingAndTheFormGoesOn) {
     const struct { const char* angle; const char* tics; const char* says; } cases[] = {
         {"54", "0", "distance"}, {"54", "", "distance"}, {"54", "abc", "distance"},
-        {"54", "-0.5", "distance"}, {"54", ".0003", "distance"},
-        {"9.5", ".5", "10 to 170"}, {"170.5", ".5", "10 to 170"}, {"abc", ".5", "10 to 170"},
+        {"54", ".0003", "distance"}, {"abc", ".5", "0 degrees"}, {"0", ".5", "0 degrees"},
     };
     for (const auto& c : cases) {
         StickForm s;
@@ -66,14 +65,35 @@ TEST(StickBadInput, NoDistanceOrNoAngleDrawsNothingAndTheFormGoesOn) {
     }
 }
 
-TEST(StickBadInput, MultiDrawingStopsBelow10AndPastAHalfTurnAndOnAStepOfZero) {
-    const struct { const char* angle; const char* tics; int faults; int bases; } cases[] = {
-        {"9.9", ".5", 0, 0}, {"175", ".5", 0, 17}, {"180", ".5", 1, 0}, {"270", ".5", 1, 0},
-        {"1e9", ".5", 1, 0}, {"54", "0", 1, 0}, {"54", "abc", 1, 0},
+// The limits 10 and 170 belong to the angle box and the label: a drawing
+// takes the angle as it stands, and a negative distance is a figure too.
+TEST(StickBadInput, AnglesPastTheLimitsAndNegativeDistancesStillDraw) {
+    const struct { const char* angle; const char* tics; bool doubled; size_t black; } cases[] = {
+        {"5", ".5", false, 17},     // 11600 / 720 rounds to 16; the leg is low enough
+        {"175", ".5", false, 9},    // 5817 / 720: 8 sticks under the base
+        {"54", "-.5", false, 1},    // Count -16: the base alone
+        {"54", "-.5", true, 4},     // two bases and two first leg steps
     };
     for (const auto& c : cases) {
         StickForm s;
+        s.set(c.angle, c.tics, c.doubled, "optNoColor").click("cmdDrawIt");
+        EXPECT_TRUE(s.t.faults().empty()) << c.angle << " " << c.tics;
+        EXPECT_EQ(black(s.canvas()).size(), c.black) << c.angle << " " << c.tics;
+        s.click("cmdPrintIt");
+        EXPECT_EQ(s.t.count("Printer", "enddoc"), 1) << c.angle << " " << c.tics;
+    }
+}
+
+TEST(StickBadInput, MultiDrawingStopsBelow10OnALegThatNeverLeavesAndOnAStepOfZero) {
+    const struct { const char* angle; const char* tics; int faults; int bases; } cases[] = {
+        {"9.9", ".5", 0, 0}, {"9.9", "0", 0, 0}, {"175", ".5", 0, 17}, {"189", ".5", 0, 18},
+        {"270", ".5", 1, 0}, {"1e9", ".5", 1, 0}, {"54", "0", 1, 0}, {"54", "abc", 1, 0},
+    };
+    for (const auto& c : cases) {
+        StickForm s;
+        const auto t0 = std::chrono::steady_clock::now();
         s.set(c.angle, c.tics).click("cmdAnimate");
+        EXPECT_LT(std::chrono::steady_clock::now() - t0, std::chrono::seconds(1));
         EXPECT_EQ(int(s.t.faults().size()), c.faults) << c.angle << " " << c.tics;
         int bases = 0;
         for (const Stroke& st : s.canvas()) bases += st.x1 == 4000 && st.x2 == 13500;
