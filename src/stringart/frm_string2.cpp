@@ -223,9 +223,9 @@ void FrmString2::Form_MouseDown(int /*Button*/, int /*Shift*/, Single X, Single 
 }
 
 void FrmString2::Form_MouseMove(int /*Button*/, int /*Shift*/, Single X, Single Y) {
-    // Int of a Single stays a Single, and so does the difference.
-    const Single x = static_cast<Single>(Int(X) - kPanel);
-    const Single y = static_cast<Single>(AreaHigh - Int(Y));
+    // Int gives a Double: far off the form the text keeps all its digits.
+    const Double x = Int(X) - kPanel;
+    const Double y = AreaHigh - Int(Y);
     lblXY.setCaption("(" + Trim(Str(x)) + "," + Trim(Str(y)) + ")");
 }
 

@@ -158,7 +158,9 @@ TEST_F(String2Test, TypedPointsAndTheirLimits) {
 TEST_F(String2Test, LiveReadOutAndAbout) {
     auto& xy = *static_cast<Label*>(f->find("lblXY"));
     const std::pair<std::pair<double, double>, const char*> moves[] = {
-        {{1600.7, 100.2}, "(40,8885)"}, {{100, 8984.5}, "(-1460,1)"}, {{1560, 0}, "(0,8985)"}};
+        {{1600.7, 100.2}, "(40,8885)"}, {{100, 8984.5}, "(-1460,1)"}, {{1560, 0}, "(0,8985)"},
+        // Far off the form the numbers are Doubles, written with all their digits.
+        {{123456789.5, -98765432.25}, "(123455232,98774417)"}};
     for (auto [at, shown] : moves) {
         EventArgs a;
         a.x = static_cast<Single>(at.first);
