@@ -42,6 +42,9 @@ public:
     void PrintLin(Integer a, Integer b, Integer c, Integer d);
     void PrintConnectEm();
     void PrintEmColor();
+    // The Tics + 1 strings of the corner at NextPoint on the page, in the
+    // colour given or in the foreground.
+    void PrintCorner(Integer Tics, long colour);
 
     // Shapes menu (string_shapes.cpp)
     void mnuCube_Click();

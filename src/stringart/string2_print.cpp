@@ -10,8 +10,17 @@ void FrmString2::PrintLin(Integer a, Integer b, Integer c, Integer d) {
     Printer().Line(b, a, d, c);
 }
 
-void FrmString2::PrintConnectEm() {
+void FrmString2::PrintConnectEm() { PrintCorner(Integer(TicsToDraw()), kForeground); }
+
+void FrmString2::PrintEmColor() {
     const Integer Tics = TicsToDraw();
+    LineRed = Int(Rnd() * 255.0);
+    LineGreen = Int(Rnd() * 255.0);
+    LineBlue = Int(Rnd() * 255.0);
+    PrintCorner(Tics, RGB(LineRed, LineGreen, LineBlue));
+}
+
+void FrmString2::PrintCorner(Integer Tics, long colour) {
     const Integer Px = PX(NextPoint - 2), Py = PY(NextPoint - 2);
     const Integer Qx = PX(NextPoint - 1), Qy = PY(NextPoint - 1);
     const Integer Rx = PX(NextPoint), Ry = PY(NextPoint);
@@ -22,27 +31,12 @@ void FrmString2::PrintConnectEm() {
     // Paper gets the k = 0 string too: Tics + 1 strings a corner.
     for (TicIndex = 0; TicIndex <= Tics; ++TicIndex) {
         const Double k = TicIndex;
-        Printer().Line(Int(k * StepPy + Py), Int(k * StepPx + Px), Int(k * StepQy + Qy), Int(k * StepQx + Qx));
-    }
-}
-
-void FrmString2::PrintEmColor() {
-    const Integer Tics = TicsToDraw();
-    LineRed = Int(Rnd() * 255.0);
-    LineGreen = Int(Rnd() * 255.0);
-    LineBlue = Int(Rnd() * 255.0);
-    const Integer Px = PX(NextPoint - 2), Py = PY(NextPoint - 2);
-    const Integer Qx = PX(NextPoint - 1), Qy = PY(NextPoint - 1);
-    const Integer Rx = PX(NextPoint), Ry = PY(NextPoint);
-    const Single StepPx = CSng(Integer(Qx - Px) / Double(Tics));
-    const Single StepPy = CSng(Integer(Qy - Py) / Double(Tics));
-    const Single StepQx = CSng(Integer(Rx - Qx) / Double(Tics));
-    const Single StepQy = CSng(Integer(Ry - Qy) / Double(Tics));
-    const long colour = RGB(LineRed, LineGreen, LineBlue);
-    for (TicIndex = 0; TicIndex <= Tics; ++TicIndex) {
-        const Double k = TicIndex;
-        Printer().Line(Int(k * StepPy + Py), Int(k * StepPx + Px), Int(k * StepQy + Qy), Int(k * StepQx + Qx),
-                       colour);
+        const Double x1 = Int(k * StepPy + Py), y1 = Int(k * StepPx + Px);
+        const Double x2 = Int(k * StepQy + Qy), y2 = Int(k * StepQx + Qx);
+        if (colour == kForeground)
+            Printer().Line(x1, y1, x2, y2);
+        else
+            Printer().Line(x1, y1, x2, y2, colour);
     }
 }
 
