@@ -24,8 +24,6 @@ int StringArtReader::next() {
     std::string token;
     while (c != std::char_traits<char>::eof() && !separator(c)) {
         token += static_cast<char>(c);
-        // No Integer needs more characters; a longer run is no Integer.
-        if (token.size() > 7) throw StringArtFileError("a value is too long");
         c = in_.get();
     }
     size_t i = (token[0] == '-' || token[0] == '+') ? 1 : 0;
@@ -33,7 +31,8 @@ int StringArtReader::next() {
     long value = 0;
     for (; i < token.size(); ++i) {
         if (token[i] < '0' || token[i] > '9') throw StringArtFileError("a value is not a whole number");
-        value = value * 10 + (token[i] - '0');
+        // Leading zeros are allowed; past six digits no Integer can follow.
+        if (value < 1000000) value = value * 10 + (token[i] - '0');
     }
     if (token[0] == '-') value = -value;
     if (value < -32768 || value > 32767) throw StringArtFileError("a value does not fit an Integer");

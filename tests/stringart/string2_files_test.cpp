@@ -130,6 +130,8 @@ TEST_F(String2Files, HandWrittenFilesWithOtherSeparatorsOpen) {
     for (const std::string& text : {
              std::string("6,5,1000,100,11000,100,6000,8760,1000,100,11000,100"),
              std::string("6 5\n1000 100\t11000,100\r\n\r\n  6000 , 8760\n1000\n100\n+11000 100 anything after"),
+             // Leading zeros are whole numbers too.
+             std::string("0000000006 5 01000 100 11000 0000000100 6000 8760 1000 100 11000 100"),
          }) {
         write("hand", text);
         t.clear();
