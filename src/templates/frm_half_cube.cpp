@@ -77,9 +77,10 @@ void FrmHalfCube::DrawFigure(DrawingSurface& P, Integer side, bool preview) {
     // The product first, then the halving: the floor is of the half diagonal.
     const Double flapHeight = Int(side * std::sqrt(2.0) / 2);
     const Integer halfSide = Int(side / 2.0);
-    if (side > 16383)
-        refuse(preview, "Nothing was printed: the side length is too large for a sheet. "
-                        "Please type a smaller side length in inches.");
+    // The preview always draws its first copy, whose 2 * side would leave
+    // the Integer range past 16383. On the sheet such a side never passes
+    // the tests, which come first, and the sheet comes out empty.
+    if (preview && side > 16383) refuse(preview, "");
 
     // The stair of one row goes down by halfSide per copy and the row step
     // takes back rowCount * side / 2.

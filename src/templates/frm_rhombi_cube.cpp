@@ -86,10 +86,10 @@ void FrmRhombiCube::DrawFigure(DrawingSurface& P, Integer side, bool preview) {
     const Integer surfaceW = CInt(P.ScaleWidth());
     const Integer surfaceH = CInt(P.ScaleHeight());
     Integer rowPitchHalf;
-    checkRange(preview, side, [&] {
-        rowPitchHalf = Int(side * std::sin(AcuteAngle()));
-        if (side > 16383) throwOverflow();  // 2 * side in the copy's walk
-    });
+    // 2 * side of the copy's walk cannot overflow: a side past 16383 never
+    // passes the row test of a surface that an Integer can measure, and
+    // such a sheet comes out empty.
+    checkRange(preview, side, [&] { rowPitchHalf = Int(side * std::sin(AcuteAngle())); });
 
     // Both loops test before the body, with the whole reach of a copy, so
     // no copy is ever cut off at the right or the bottom.

@@ -109,28 +109,31 @@ void TemplateForm::refuse(bool preview, const std::string& message) {
     throwInvalid(message);
 }
 
-void TemplateForm::limitCopies(Double copies, int strokesPerCopy) {
-    if (copies * strokesPerCopy > Double(WorkMeter::kDefaultLimit)) throwWorkLimit();
-}
-
 void TemplateForm::checkTiling(bool preview, Integer side, int strokesPerCopy,
                                const std::function<void(TileSink&)>& tiling) {
+    struct TooMany {};
     class Counter : public TileSink {
     public:
-        explicit Counter(int strokes) : strokes_(strokes) {}
+        Counter(int strokes, Double limit) : strokes_(strokes), limit_(limit) {}
         void copy(Integer, Integer) override { charge(strokes_); }
         void row() override { charge(1); }
 
     private:
         void charge(int amount) {
             used_ += amount;
-            if (used_ > Double(WorkMeter::kDefaultLimit)) throwWorkLimit();
+            if (used_ > limit_) throw TooMany{};
         }
         int strokes_;
+        Double limit_;
         Double used_ = 0;
     };
-    Counter counter(strokesPerCopy);
-    checkRange(preview, side, [&] { tiling(counter); });
+    Counter counter(strokesPerCopy, preview ? kPreviewStrokeLimit : Double(WorkMeter::kDefaultLimit));
+    try {
+        checkRange(preview, side, [&] { tiling(counter); });
+    } catch (const TooMany&) {
+        if (preview) refuse(preview, "");
+        throwWorkLimit();
+    }
 }
 
 void TemplateForm::checkRange(bool preview, Integer side, const std::function<void()>& work) {

@@ -15,10 +15,9 @@
 //   `preview` is true on the form's canvas (tiling starts at kPreviewLeft)
 //   and false on the Printer. It must not call EndDoc: the frame does that
 //   once after it returns. Before drawing it calls refuse() for a side whose
-//   derived quantities would leave the Integer range, and limitCopies() with
-//   its estimate of the copies, so that nothing is drawn at all in either case.
-//   checkTiling() does both at once for a figure whose tiling loops are
-//   written over a TileSink.
+//   derived quantities would leave the Integer range, and checkTiling() for
+//   its tiling loops written over a TileSink, so that nothing is drawn at
+//   all for a side that cannot be laid out.
 
 #include <functional>
 #include <string>
@@ -88,6 +87,9 @@ public:
 
     // Where the preview's tiling begins, right of the controls.
     static constexpr int kPreviewLeft = 3000;
+    // Strokes a preview may take, about a second of drawing on the canvas;
+    // a side of 0.01 inch still fits on every form but the great dodecagon.
+    static constexpr Double kPreviewStrokeLimit = 3'000'000;
 
 protected:
     virtual void DrawFigure(DrawingSurface& surface, Integer side, bool preview) = 0;
@@ -97,14 +99,14 @@ protected:
     // the message on the Printer, where the user pressed "Print It" and
     // must learn why no sheet came.
     [[noreturn]] void refuse(bool preview, const std::string& message);
-    // Stops before drawing when the copies times their strokes would swamp
-    // the surface: a side so small that a sheet needs a million copies.
-    void limitCopies(Double copies, int strokesPerCopy);
     // Runs a figure's tiling loops once without drawing: the loops' own
     // Integer arithmetic faults where a position leaves the Integer range,
     // and the copies are counted, so that a side whose sheet cannot be laid
     // out (or needs millions of strokes) is refused before the first stroke.
-    // `tiling` must run the very loops that the drawing runs.
+    // The preview has the smaller budget and stays blank past it, silently:
+    // each keystroke redraws, and typing must not stall on a grey smear of
+    // copies too small to see. `tiling` must run the very loops that the
+    // drawing runs.
     void checkTiling(bool preview, Integer side, int strokesPerCopy,
                      const std::function<void(TileSink&)>& tiling);
     // Runs `work` (derived quantities stored in Integers) and turns an

@@ -33,8 +33,9 @@ TEST(TemplateFrame, DesignOfTheThreeForms) {
         EXPECT_EQ(static_cast<Label*>(f.find("cmdExit"))->Caption(), "E&xit");
         EXPECT_EQ(f.find("cmdPrintIt")->design().backColor, RGB(255, 255, 0));
         EXPECT_EQ(f.find(w.lengthLabel)->design().backColor, w.ground);
-        for (const auto& c : f.design().controls)
+        for (const auto& c : f.design().controls) {
             if (c.kind != ControlKind::Menu) EXPECT_LE(c.left + c.width, 2775) << c.name;
+        }
         f.Hide();
     }
 }
@@ -207,5 +208,22 @@ TEST(TemplateFrame, BadSidesDrawNothingAndKeepTheText) {
             t.edit(f, "txtLeng", "1");
             EXPECT_FALSE(t.lines(form).empty());
         }
+    }
+}
+
+TEST(TemplateFrame, APreviewTooDenseToDrawQuicklyStaysBlankWithNoMessage) {
+    // Sides of a few units fill the canvas with hundreds of thousands of
+    // copies; typing must not stall on them, and the preview shows no box.
+    struct Case { const char* form; const char* text; };
+    for (Case c : {Case{"frmRhombiCube", "0.0075"}, Case{"frmOneSixthCube", "0.0075"},
+                   Case{"frmGreatDodeca", "0.01"}, Case{"frmRhombiDodec", "0.005"}}) {
+        TestApp t;
+        Form& f = t.show(c.form);
+        t.clear();
+        t.edit(f, "txtLeng", c.text);
+        EXPECT_EQ(t.count(c.form, "cls"), 1) << c.form;
+        EXPECT_TRUE(t.lines(c.form).empty()) << c.form;
+        EXPECT_TRUE(t.faults().empty()) << c.form;
+        EXPECT_TRUE(t.dialogs().empty()) << c.form;
     }
 }
