@@ -64,7 +64,9 @@ void PrintTriangleSheet(DrawingSurface& P, Integer base, Double angle) {
     Integer y = 0;
     Integer row = 0;
     while (y <= pageH - rise) {
-        Integer x = (row % 2 == 0) ? CInt(base / 2.0) : Integer(0);
+        // x is kept wide: the step past the last cell of a row may pass an
+        // Integer on a sheet near 22 inches wide, though every drawn cell fits.
+        long x = (row % 2 == 0) ? long(CInt(base / 2.0)) : 0L;
         // A cell is drawn while its apex lies at most a third of a base
         // beyond the right edge.
         while (pageW - base / 3.0 >= x) {

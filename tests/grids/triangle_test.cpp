@@ -112,6 +112,18 @@ TEST(TriangleSheet, LandscapeAndOtherPrintableAreasSetTheLoopEnds) {
     EXPECT_EQ(right, 720 + 10 * 1440);  // apexes up to 13680 <= 15120 - 480
 }
 
+TEST(TriangleSheet, TheWidestSheetStepsPastItsLastCellWithoutOverflow) {
+    // Odd rows end at 31680; the step to 33120 lies beyond an Integer.
+    Sheet s("1", "60", "2", 32767, 15120);
+    EXPECT_TRUE(s.t.faults().empty());
+    EXPECT_EQ(s.t.count("Printer", "enddoc"), 1);
+    float right = 0;
+    for (const Stroke& st : s.lines())
+        if (st.y1 == 1247 && st.y2 == 1247) right = std::max(right, st.x2);
+    EXPECT_EQ(right, 31680 + 1440);
+    EXPECT_EQ(s.lines().size(), 6u * 22 * 5 + 6u * (23 * 5 - 1));
+}
+
 TEST(TriangleSheet, ImpossibleValuesComeBackAtOnceWithAMessageAndNoSheet) {
     for (auto [leng, angle] : {std::pair{"0", "60"}, {"-1", "60"}, {"1", "90"}, {"1", "95"},
                                {"1", "0"}, {"abc", "60"}, {"0.0001", "60"}, {"1", "180"}}) {
