@@ -80,7 +80,7 @@ void FrmHalfCube::DrawFigure(DrawingSurface& P, Integer side, bool preview) {
     // The preview always draws its first copy, whose 2 * side would leave
     // the Integer range past 16383. On the sheet such a side never passes
     // the tests, which come first, and the sheet comes out empty.
-    if (preview && side > 16383) refuse(preview, "");
+    if (preview && side > 16383) leavePreviewBlank();
 
     // The stair of one row goes down by halfSide per copy and the row step
     // takes back rowCount * side / 2.

@@ -105,9 +105,11 @@ void TemplateForm::PrintRoutine() {
 }
 
 void TemplateForm::refuse(bool preview, const std::string& message) {
-    if (preview) throw PreviewBlank{};
+    if (preview) leavePreviewBlank();
     throwInvalid(message);
 }
+
+void TemplateForm::leavePreviewBlank() { throw PreviewBlank{}; }
 
 void TemplateForm::checkTiling(bool preview, Integer side, int strokesPerCopy,
                                const std::function<void(TileSink&)>& tiling) {
@@ -131,7 +133,7 @@ void TemplateForm::checkTiling(bool preview, Integer side, int strokesPerCopy,
     try {
         checkRange(preview, side, [&] { tiling(counter); });
     } catch (const TooMany&) {
-        if (preview) refuse(preview, "");
+        if (preview) leavePreviewBlank();
         throwWorkLimit();
     }
 }

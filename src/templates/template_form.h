@@ -99,6 +99,8 @@ protected:
     // the message on the Printer, where the user pressed "Print It" and
     // must learn why no sheet came.
     [[noreturn]] void refuse(bool preview, const std::string& message);
+    // Ends the preview routine with nothing drawn and no message.
+    [[noreturn]] void leavePreviewBlank();
     // Runs a figure's tiling loops once without drawing: the loops' own
     // Integer arithmetic faults where a position leaves the Integer range,
     // and the copies are counted, so that a side whose sheet cannot be laid
