@@ -11,9 +11,10 @@ namespace gp {
 
 class WorkMeter {
 public:
-    // Far above the heaviest real page (about a million strokes for the
-    // stick-curve fill), far below a frozen window.
-    static constexpr std::uint64_t kDefaultLimit = 6'000'000;
+    // Above the heaviest real page (the stick-curve fill on a large sheet,
+    // about a million strokes), and low enough that no handler keeps the
+    // window from answering for more than a few seconds.
+    static constexpr std::uint64_t kDefaultLimit = 2'000'000;
 
     void reset() { used_ = 0; }
     void restore(std::uint64_t used) { used_ = used; }

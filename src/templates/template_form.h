@@ -87,9 +87,10 @@ public:
 
     // Where the preview's tiling begins, right of the controls.
     static constexpr int kPreviewLeft = 3000;
-    // Strokes a preview may take, about a second of drawing on the canvas;
-    // a side of 0.01 inch still fits on every form but the great dodecagon.
-    static constexpr Double kPreviewStrokeLimit = 3'000'000;
+    // Strokes a preview may take, about a second of drawing on the canvas,
+    // so typing stays fluid; below the handler's own work limit, so that a
+    // preview too dense to see stays blank instead of stopping with a fault.
+    static constexpr Double kPreviewStrokeLimit = 1'500'000;
 
 protected:
     virtual void DrawFigure(DrawingSurface& surface, Integer side, bool preview) = 0;
