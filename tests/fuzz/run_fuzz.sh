@@ -21,7 +21,14 @@ one() {
   (cd "$run" && timeout -k 2 "$limit" "$prog" --script "$script" --trace /dev/null --pdf pdf >out.txt 2>err.txt)
   status=$?
   verdict=ok
-  if [ $status -eq 124 ] || [ $status -eq 137 ]; then verdict=hang
+  if [ $status -eq 124 ] || [ $status -eq 137 ]; then
+    # A busy machine can stall a run: one more try with three times the
+    # time tells a slow run from a hang.
+    rm -rf "$run"/pdf
+    (cd "$run" && timeout -k 2 "$((limit * 3))" "$prog" --script "$script" --trace /dev/null --pdf pdf >out.txt 2>err.txt)
+    status=$?
+    [ $status -eq 124 ] || [ $status -eq 137 ] || { echo "slow $script"; rm -rf "$run"; return; }
+    verdict=hang
   elif [ $status -ge 128 ]; then verdict=crash
   elif grep -q -E 'AddressSanitizer|runtime error:|LeakSanitizer' "$run/err.txt"; then verdict=sanitizer
   elif [ $status -eq 2 ]; then verdict=refused
@@ -39,11 +46,12 @@ export -f one
 export prog work keep limit
 
 ls "$work"/scripts/*.txt | xargs -P "$jobs" -I{} bash -c 'one {}' > "$work/results.txt"
-ok=$(grep -c '^ok ' "$work/results.txt")
+ok=$(grep -c -E '^(ok|slow) ' "$work/results.txt")
+slow=$(grep -c '^slow ' "$work/results.txt")
 refused=$(grep -c '^refused ' "$work/results.txt")
 bad=$(grep -c -E '^(hang|crash|sanitizer) ' "$work/results.txt")
 grep -E '^(hang|crash|sanitizer) ' "$work/results.txt" | head -n 20
-echo "fuzz: $count scripts (seed $seed): $ok ran to the end, $refused stopped at a line the runner refused, $bad failed"
+echo "fuzz: $count scripts (seed $seed): $ok ran to the end ($slow only on a second, longer try), $refused stopped at a line the runner refused, $bad failed"
 [ "$bad" -gt 0 ] && echo "fuzz: failing scripts kept in $keep"
 rm -rf "$work"
 echo "fuzz: $((ok + refused)) passed, $bad failed"
