@@ -1,33 +1,26 @@
-// frmString2 on screen: the cube on every activation, corners of strings
-// with their floors, clicks and typed points at their limits, the read-out
-// and the colour passes.
+// frmString2 on screen and on paper: the cube on every activation, corners
+// of strings with their floors, clicks and typed points at their limits,
+// the read-out, the colour passes, the Shapes menu, and "Print It" with its
+// questions, exchanged axes, scaled and centred figure.
 
 #include "string2_fixture.h"
 
 namespace gp::string2test {
 namespace {
 
-TEST(String2Activation, EveryActivationDrawsTheCubeOverTheCanvas) {
-    test::TestApp app;
-    auto& f = app.show<FrmString2>("frmString2");
-    for (int shown = 0; shown < 2; ++shown) {
-        std::vector<Seg> s;
-        for (const Stroke& l : app.lines("frmString2")) s.push_back({l.x1, l.y1, l.x2, l.y2, float(l.color)});
+TEST_F(String2Test, EveryActivationDrawsTheCubeOverTheCanvas) {
+    for (int cleared = 0; cleared < 2; ++cleared) {  // hidden, the list kept or cleared, shown again
+        if (cleared) press("Command1");
+        press("cmdExit");
+        EXPECT_FALSE(f->visible());
+        t.clear();
+        t.show("frmString2");
+        const auto s = segs();
         ASSERT_EQ(s.size(), 2u + 12 * 15);
-        EXPECT_EQ(s[0], (Seg{7560, 8485, 7560, 4735, 0}));
         EXPECT_EQ(s[1], (Seg{7560, 4735, 5685, 2860, 0}));
         EXPECT_EQ(s[2], (Seg{7560, 8235, 7435, 4610, 0}));
-        EXPECT_EQ(s.back(), (Seg{7560, 8485, 7560, 4735, 0}));  // point 13 to 14
-        EXPECT_EQ(app.count("frmString2", "cls"), 0);
-        EXPECT_EQ(f.nextPoint(), 15);
-        EXPECT_EQ(f.lastPoint(), 14);
-        // Hidden with a cleared list and shown again: the cube is back,
-        // drawn over the canvas.
-        app.fire(f, "Command1", Event::Click);
-        app.fire(f, "cmdExit", Event::Click);
-        EXPECT_FALSE(f.visible());
-        app.clear();
-        app.show("frmString2");
+        EXPECT_EQ(t.count("frmString2", "cls"), 0);
+        EXPECT_EQ(f->nextPoint(), 15);
     }
 }
 
@@ -38,35 +31,22 @@ TEST_F(String2Test, CornerEndsAreFlooredAfterTheSum) {
     EXPECT_EQ(s[0], (Seg{7560, 4735, 8000, 3000, -1}));
     EXPECT_EQ(s[1], (Seg{7560, 8235, 7589, 4619, 0}));  // steps 440/15, -1735/15
     EXPECT_EQ(s[15], (Seg{7560, 4735, 8000, 3000, 0}));
-    EXPECT_EQ(t.count("frmString2", "pset"), 1);
-    EXPECT_EQ(f->pointX(15), 6440);
-    EXPECT_EQ(f->pointY(15), 5985);
-
-    t.clear();
+    EXPECT_EQ(points(15, 15), (Pts{{6440, 5985}}));
     type("txtTics", "3");
+    t.clear();
     chain({{1440, 3985}, {1450, 3995}, {2440, 2985}});
     s = segs();
-    ASSERT_EQ(s.size(), 2u + 3);
     EXPECT_EQ(s[2], (Seg{3003, 4996, 3340, 5326, 0}));  // -10/3 floors to -4
-    EXPECT_EQ(s[3], (Seg{3006, 4993, 3670, 5663, 0}));
-    // The Single step 10/3 lies just below 10/3: three of them fall short.
-    EXPECT_EQ(s[4], (Seg{3009, 4990, 4000, 5999, 0}));
+    EXPECT_EQ(s[4], (Seg{3009, 4990, 4000, 5999, 0}));  // three Single steps of 10/3 fall short
 }
 
-TEST_F(String2Test, TicCountsAsTyped) {
-    const std::pair<const char*, size_t> cases[] = {{"1", 1}, {"2.9", 2}, {" 7abc", 7}, {"-4", 0}};
-    for (auto [text, strings] : cases) {
+TEST_F(String2Test, TicCountsAsTypedAndBadOnesRefusedBeforeThePointIsTaken) {
+    for (auto [text, strings] : {std::pair<const char*, size_t>{"1", 1}, {"2.9", 2}, {" 7abc", 7}, {"-4", 0}}) {
         t.clear();
         type("txtTics", text);
         click(5000, 5000);
         EXPECT_EQ(segs().size(), 1 + strings) << text;
-        EXPECT_TRUE(t.faults().empty());
     }
-    // One tic: the only string lies on the newer segment.
-    EXPECT_EQ(segs().size(), 1u);
-}
-
-TEST_F(String2Test, BadTicCountsAreRefusedBeforeThePointIsTaken) {
     for (const char* bad : {"0", "", "abc", "0.5", "32767", "-99999"}) {
         t.clear();
         type("txtTics", bad);
@@ -75,106 +55,69 @@ TEST_F(String2Test, BadTicCountsAreRefusedBeforeThePointIsTaken) {
         ASSERT_EQ(t.faults().size(), 2u) << bad;
         EXPECT_NE(t.faults()[0].find("tics"), std::string::npos);
         EXPECT_TRUE(t.ops().empty());
-        EXPECT_EQ(f->nextPoint(), 15);
-        EXPECT_EQ(f->lastPoint(), 14);
+        EXPECT_EQ(f->nextPoint(), 19);
     }
     type("txtTics", "32766");  // the largest count still draws
     click(9000, 2000);
     EXPECT_EQ(segs().size(), 1u + 32766);
 }
 
-TEST_F(String2Test, ClicksAreStrictlyInsideTheCanvasAndStopAt199) {
-    for (auto [x, y] : std::vector<std::pair<double, double>>{{1560, 4000}, {13890, 4000}, {5000, 0}, {5000, 8985}})
-        click(x, y);
+TEST_F(String2Test, ClicksAndTypedPointsAtTheirLimits) {
+    for (auto [x, y] : Pts{{1560, 4000}, {13890, 4000}, {5000, 0}, {5000, 8985}}) click(x, y);
     EXPECT_TRUE(t.ops().empty());
-    EXPECT_EQ(f->nextPoint(), 15);
-
     press("Command1");
-    click(1560.5, 8984.9);  // just inside: plot (0, 1)
-    EXPECT_EQ(f->pointX(1), 0);
-    EXPECT_EQ(f->pointY(1), 1);
-    EXPECT_EQ(t.count("frmString2", "line"), 0);
+    click(1560.5, 8984.9);  // just inside: plot (0, 1), a dot and no line
+    EXPECT_EQ(points(1, 1), (Pts{{0, 1}}));
     click(4000, 3000);
-    EXPECT_EQ(segs(), (std::vector<Seg>{{1560, 8984, 4000, 3000, -1}}));
-    tick(1);  // the click's own dot and segment keep the default colour
+    tick(1);  // the click's own segment keeps the default colour; Lin colours a typed one
     click(4000, 5000);
-    const auto s = segs();
-    ASSERT_EQ(s.size(), 1u + 1 + 15);
+    auto s = segs();
+    ASSERT_EQ(s.size(), 2u + 15);
+    EXPECT_EQ(s[0], (Seg{1560, 8984, 4000, 3000, -1}));
     EXPECT_EQ(s[1][4], -1);
     for (size_t i = 3; i < s.size(); ++i) EXPECT_EQ(s[i][4], s[2][4]);
     EXPECT_EQ(t.count("frmString2", "pset"), 3);
-
-    type("txtTics", "1");
-    for (int i = 4; i <= 199; ++i) click(2000 + (50 * i) % 11000, 1000 + (i % 7) * 900);
-    EXPECT_EQ(f->lastPoint(), 199);
-    t.clear();
-    click(6000, 6000);
-    EXPECT_TRUE(t.ops().empty());
-    EXPECT_EQ(f->nextPoint(), 200);
-}
-
-TEST_F(String2Test, TypedPointsAndTheirLimits) {
     press("Command1");
+    setPos(0, 0);  // the foot of lne1
+    EXPECT_EQ(t.opsOf("frmString2", "pset").back().stroke.y1, 8985);
     t.clear();
-    setPos(0, 0);  // valid, at the foot of lne1
-    ASSERT_EQ(t.count("frmString2", "pset"), 1);
-    EXPECT_EQ(t.opsOf("frmString2", "pset")[0].stroke.y1, 8985);
-    tick(1);
-    setPos(13889, 8984);  // the far limits are inside; Lin colours the segment
-    const auto s = segs();
-    ASSERT_EQ(s.size(), 1u);
-    EXPECT_EQ(s[0][2], 15449);
-    EXPECT_EQ(s[0][3], 1);
-    EXPECT_NE(s[0][4], -1);
-
-    const std::string text =
-        "Your point is outside the area. X can not be greater than 13890 and Y can not be greater than 8985 .";
-    const std::pair<const char*, const char*> outside[] = {
-        {"13890", "1"}, {"1", "8985"}, {"-1", "1"}, {"1", "-0.5"}, {"99999", "1"}};
-    for (auto [x, y] : outside) {
+    setPos(13889, 8984);  // the far limits are inside
+    EXPECT_EQ(segs()[0][2], 15449);
+    EXPECT_NE(segs()[0][4], -1);
+    for (auto [x, y] : {std::pair<const char*, const char*>{"13890", "1"}, {"1", "8985"}, {"-1", "1"}, {"1", "-0.5"}}) {
         t.clear();
         type("txtX", x);
         type("txtY", y);
         press("lblSetPos");
-        const auto b = boxes();
-        ASSERT_EQ(b.size(), 1u);
-        EXPECT_EQ(b[0].title, "Coordinate Error");
-        EXPECT_EQ(b[0].prompt, text);
+        EXPECT_EQ(last(), "Coordinate Error|Your point is outside the area. X can not be greater than 13890 "
+                          "and Y can not be greater than 8985 .");
         EXPECT_TRUE(t.ops().empty());
-        EXPECT_EQ(f->nextPoint(), 3);
     }
     tick(0);
     type("txtTics", "1");
-    for (int i = 3; i <= 99; ++i) setPos(100 * (i % 50), 1000 + (i % 3) * 500);
-    EXPECT_EQ(t.count("frmString2", "pset"), 0);  // no dot after the first point
-    EXPECT_EQ(f->nextPoint(), 100);
     t.clear();
-    setPos(400, 400);  // silently ignored from 100 on
-    EXPECT_TRUE(t.ops().empty());
+    for (int i = 3; i <= 100; ++i) setPos(100 * (i % 50), 1000 + (i % 3) * 500);  // silent from 100 on
     EXPECT_TRUE(t.dialogs().empty());
     EXPECT_EQ(f->lastPoint(), 99);
+    for (int i = 100; i <= 200; ++i) click(2000 + (50 * i) % 11000, 1000 + (i % 7) * 900);  // clicks stop at 199
+    EXPECT_EQ(f->lastPoint(), 199);
 }
 
-TEST_F(String2Test, LiveReadOutAndAbout) {
-    auto& xy = *static_cast<Label*>(f->find("lblXY"));
+TEST_F(String2Test, LiveReadOutAboutAndEnd) {
     const std::pair<std::pair<double, double>, const char*> moves[] = {
-        {{1600.7, 100.2}, "(40,8885)"}, {{100, 8984.5}, "(-1460,1)"}, {{1560, 0}, "(0,8985)"},
-        // Far off the form the numbers are Doubles, written with all their digits.
-        {{123456789.5, -98765432.25}, "(123455232,98774417)"}};
+        {{1600.7, 100.2}, "(40,8885)"}, {{100, 8984.5}, "(-1460,1)"},
+        {{123456789.5, -98765432.25}, "(123455232,98774417)"}};  // far off: Doubles with all their digits
     for (auto [at, shown] : moves) {
         EventArgs a;
-        a.x = static_cast<Single>(at.first);
-        a.y = static_cast<Single>(at.second);
+        a.x = Single(at.first);
+        a.y = Single(at.second);
         t.fire(*f, kFormEvents, Event::MouseMove, a);
-        EXPECT_EQ(xy.Caption(), shown);
+        EXPECT_EQ(static_cast<Label*>(f->find("lblXY"))->Caption(), shown);
     }
     press("mnuAbout");
-    ASSERT_EQ(boxes().size(), 1u);
-    EXPECT_EQ(boxes()[0].title, "Info About Program");
-    EXPECT_EQ(lastPrompt(),
-              "Click around on the area at the right or enter a coordinate and click in the set position.  "
-              "Your strings will start forming.  Change the tic marks to 25 or more for the Shapes menu.  "
-              "These are set shapes.  You may print them also.");
+    EXPECT_EQ(last(), "Info About Program|Click around on the area at the right or enter a coordinate and click in "
+                      "the set position.  Your strings will start forming.  Change the tic marks to 25 or more for "
+                      "the Shapes menu.  These are set shapes.  You may print them also.");
     press("mnuEnd");
     EXPECT_FALSE(f->visible());
 }
@@ -183,37 +126,161 @@ TEST_F(String2Test, ChangeColorsRepaintsFifteenTimes) {
     press("cmdCycle");
     const auto s = segs();
     ASSERT_EQ(s.size(), 15u * 182);
-    EXPECT_EQ((Seg{s[182][0], s[182][1], s[182][2], s[182][3], 0}), (Seg{7560, 8485, 7560, 4735, 0}));
-    for (size_t c = 0; c < 15 * 12; ++c) {
-        const size_t first = (c / 12) * 182 + 2 + (c % 12) * 15;
-        for (size_t k = 0; k < 15; ++k) ASSERT_EQ(s[first + k][4], s[first][4]);
-    }
-    EXPECT_EQ(f->nextPoint(), 15);
+    for (size_t c = 0; c < 15 * 12; ++c)  // one colour a corner
+        for (size_t k = 0, first = (c / 12) * 182 + 2 + (c % 12) * 15; k < 15; ++k) ASSERT_EQ(s[first + k][4], s[first][4]);
     EXPECT_EQ(static_cast<CheckBox*>(f->find("chkColorIt"))->Value(), 0);
-
-    // Fewer than three points: both Lin segments through unset points.
-    press("Command1");
+    press("Command1");  // fewer than three points: both Lin segments through unset points
     click(3000, 3000);
     t.clear();
     press("cmdCycle");
     ASSERT_EQ(segs().size(), 30u);
     EXPECT_EQ(segs()[0][2], 1560);
-    EXPECT_EQ(f->nextPoint(), 3);
     t.clear();
     click(5000, 5000);  // taken as a third point, in black
     EXPECT_EQ(segs().size(), 1u + 15);
     EXPECT_EQ(segs().back()[4], 0);
-
-    // Refused whole, before a stroke: 0 tics, or 15 x 97 corners x 5000.
     type("txtTics", "1");
     press("mnuOcta3");
-    for (const char* tics : {"0", "5000"}) {
+    for (const char* tics : {"0", "5000"}) {  // refused whole: 0 tics, or 15 x 97 corners x 5000
         t.clear();
         type("txtTics", tics);
         press("cmdCycle");
         EXPECT_EQ(t.faults().size(), 1u);
         EXPECT_TRUE(t.ops().empty());
     }
+}
+
+TEST_F(String2Test, PresetsDrawTheirWholeChains) {
+    const struct { const char* menu; int last; Pts ends; } cases[] = {  // ends: points 3 and last
+        {"mnuCube", 29, {{3625, 6125}, {6000, 4250}}}, {"mnuTriangle1", 5, {{6000, 8760}, {11000, 100}}},
+        {"mnuTriangle2", 11, {{6000, 2987}, {11000, 100}}}, {"mnuOcta2", 24, {{7742, 2621}, {5370, 1035}}}};
+    type("txtTics", "25");
+    for (const auto& c : cases) {
+        t.clear();
+        press(c.menu);
+        EXPECT_EQ(f->nextPoint(), c.last + 1) << c.menu;
+        EXPECT_EQ(t.count("frmString2", "line"), 2 + (c.last - 2) * 25);
+        EXPECT_EQ(t.count("frmString2", "cls"), 0);
+        EXPECT_EQ((Pts{points(3, 3)[0], points(c.last, c.last)[0]}), c.ends);
+    }
+    type("txtTics", "");  // a bad tic count leaves the figure as it was
+    t.clear();
+    press("mnuTetra1");
+    EXPECT_TRUE(t.ops().empty());
+    EXPECT_EQ(f->lastPoint(), 24);
+
+    // The tetrahedra go on from Triangle2, the corner at 11 drawn a second time.
+    type("txtTics", "4");
+    t.clear();
+    press("mnuTetra1");
+    const auto s = segs();
+    ASSERT_EQ(s.size(), 2u + 9 * 4 + 7 * 4);
+    for (size_t k = 0; k < 4; ++k) EXPECT_EQ(s[2 + 8 * 4 + k], s[2 + 9 * 4 + k]);
+    EXPECT_EQ(points(12, 21), (Pts{{6000, 2987}, {1000, 100}, {6000, 2987}, {6000, 8760}, {6000, 2987},
+                                   {11000, 100}, {6000, 8760}, {1000, 100}, {11000, 100}, {6000, 8760}}));
+    click(5000, 5000);  // overwrites point 18
+    EXPECT_EQ(points(18, 19), (Pts{{3440, 3985}, {1000, 100}}));
+    t.clear();
+    press("mnutetra2");
+    EXPECT_EQ(t.count("frmString2", "line"), 2 + 9 * 4 + 11 * 4);
+    EXPECT_EQ(f->nextPoint(), 22);
+}
+
+TEST_F(String2Test, OctagonsTakeAFreshRandomPointAtEachPress) {
+    press("mnuOcta1");
+    const Pts ring = points(1, 11);
+    const auto c = points(12, 12)[0];
+    EXPECT_TRUE(c.first >= 2000 && c.first <= 5999 && c.second >= 2000 && c.second <= 5999);
+    EXPECT_EQ(points(31, 35), (Pts{{2621, 500}, {2621, 500}, c, {5621, 500}, {5621, 500}}));
+    press("mnuOcta1");
+    EXPECT_EQ(points(1, 11), ring);
+    EXPECT_NE(points(12, 12)[0], c);
+    press("mnuOcta3");
+    EXPECT_EQ(f->lastPoint(), 99);
+    const auto d = points(70, 70)[0];
+    EXPECT_TRUE(d.first >= 3600 && d.first <= 4599 && d.second >= 3600 && d.second <= 4599);
+    EXPECT_EQ(points(94, 99), (Pts{d, {5025, 1905}, {5025, 1905}, d, {3210, 1905}, {3210, 1905}}));
+}
+
+TEST_F(String2Test, PrintQuestionsRefusalsAndTheFullSizeSheet) {
+    t.answer("2");  // Cancel at the first question: nothing more
+    press("cmdPrintIt");
+    EXPECT_EQ(last(), "Make Width of paper?| Do you want the shape Scaled to the width and height of the paper?");
+    EXPECT_EQ(boxes()[0].buttons, vbYesNoCancel);
+    type("txtTics", "4");
+    chain({{1000, 1000}, {2000, 1000}});
+    press("cmdPrintIt");
+    EXPECT_EQ(last(), "Need More Points|You may not print a shape with less than three points");
+    EXPECT_TRUE(t.opsOf("Printer").empty());
+    setPos(2000, 3000);
+    t.clear();
+    t.answer("7");
+    t.answer("7");
+    press("cmdPrintIt");
+    EXPECT_EQ(last(), "Colors?|Do you want random colors?");
+    EXPECT_EQ(segs("Printer"), (std::vector<Seg>{{1000, 1000, 1000, 2000, -1},  // PrintLin 1-2, axes exchanged
+                                                 {1000, 2000, 3000, 2000, -1},
+                                                 {1000, 1000, 1000, 2000, -1},  // k = 0, on the older segment
+                                                 {1000, 1250, 1500, 2000, -1}, {1000, 1500, 2000, 2000, -1},
+                                                 {1000, 1750, 2500, 2000, -1}, {1000, 2000, 3000, 2000, -1}}));
+    EXPECT_EQ(t.count("Printer", "enddoc"), 1);
+    EXPECT_TRUE(segs().empty());
+    press("mnuCube");  // random colours: the segments black, one colour a corner, the box has no say
+    tick(1);
+    t.clear();
+    t.answer("7");
+    t.answer("6");
+    press("cmdPrintIt");
+    const auto s = segs("Printer");
+    ASSERT_EQ(s.size(), 2u + 27 * 5);
+    EXPECT_EQ(s[0][4] + s[1][4], -2);
+    for (size_t i = 2; i < s.size(); ++i) ASSERT_EQ(s[i][4], s[2 + (i - 2) / 5 * 5][4]);
+}
+
+class String2SmallPage : public String2Test {
+protected:
+    String2SmallPage() : String2Test(10200, 8200) {}
+};
+
+TEST_F(String2SmallPage, ScaledPrintFillsOneWayAndCentresTheOther) {
+    press("mnuTriangle1");
+    t.clear();
+    t.answer("6");
+    t.answer("7");
+    press("cmdPrintIt");
+    const auto s = segs("Printer");
+    ASSERT_EQ(s.size(), 2u + 3 * 16);
+    // Factor 0.8 (the height fills first), 100 down and 1636 across: equal blanks left and right.
+    EXPECT_EQ(s[0], (Seg{1636, 100, 1636, 8100, -1}));
+    EXPECT_EQ(s[1], (Seg{1636, 8100, 8564, 4100, -1}));
+    t.clear();
+    click(9000, 4000);  // the plot points are back: it goes on from (11000, 100)
+    EXPECT_EQ(segs()[0], (Seg{12560, 8885, 9000, 4000, -1}));
+}
+
+TEST_F(String2Test, ScaledPrintOfATallFigureFloorsItsPointsAndAFlatOneIsRefused) {
+    type("txtTics", "2");
+    chain({{0, 0}, {100, 1000}, {200, 0}});
+    t.clear();
+    t.answer("6");
+    t.answer("7");
+    press("cmdPrintIt");
+    // Factor 11.32 as a Single; 100 x 11.32 + 6428 falls just short of 7560.
+    EXPECT_EQ(segs("Printer")[0], (Seg{100, 6428, 11419, 7559, -1}));
+    EXPECT_EQ(f->pointX(2), 100);
+    chain({{500, 100}, {500, 900}, {500, 300}, {500, 700}});  // one x for all
+    for (const char* tics : {"2", "0"})
+        for (const char* scale : {"6", "7"}) {
+            type("txtTics", tics);
+            t.clear();
+            t.answer(scale);
+            t.answer("7");
+            press("cmdPrintIt");
+            const bool prints = std::string(tics) == "2" && std::string(scale) == "7";
+            EXPECT_EQ(t.count("Printer", "enddoc"), prints ? 1 : 0) << tics << " " << scale;
+            EXPECT_EQ(t.faults().size(), prints ? 0u : 1u);
+            EXPECT_EQ(points(2, 4), (Pts{{500, 900}, {500, 300}, {500, 700}}));
+        }
 }
 
 } // namespace
