@@ -9,58 +9,47 @@ namespace {
 float scalarX1(double factor) { return formX(factor * -2.3f); }
 }
 
-TEST(ExplodeRun, DefaultsGrowByAQuarterAndFrame11IsWipedForFrame0) {
+TEST(ExplodeRun, FramesStepsAndWrapsAsTyped) {
     Explode e;
-    e("cmdBegin");
-    EXPECT_EQ(e.t.count(kForm, "cls"), 0);  // Begin draws nothing
+    EXPECT_EQ(e("clear cmdBegin").t.ops().size(), 0u);  // Begin draws nothing
     for (int k = 1; k <= 10; ++k) EXPECT_EQ(e("t1").x1(), scalarX1(0.5 + 0.25 * k)) << k;
-    EXPECT_EQ(e.x1(), 4344);  // factor 3: 6000 - 240 * 6.9
-    e("clear t1");
-    EXPECT_EQ(e.counters(), texts({11, 0}));
-    EXPECT_EQ(e.t.count(kForm, "line"), 46);
-    EXPECT_EQ(e.t.lines(kForm)[0].x1, scalarX1(3.25));
-    EXPECT_EQ(e.x1(), 5724);
+    e("clear t1");  // frame 11 is drawn, wiped and replaced by frame 0 in one tick
+    EXPECT_EQ(e.t.lines(kForm).at(0).x1, scalarX1(3.25));
+    EXPECT_EQ(e.counters() + std::to_string(e.t.count(kForm, "line")), " 11  0 46");
     const Op p = e.t.opsOf(kForm, "print").back();
-    EXPECT_EQ(std::vector<float>({p.stroke.x1, p.stroke.y1}), std::vector<float>({8700, 1100}));
+    EXPECT_EQ(std::vector<float>({p.stroke.x1, p.stroke.y1, e.x1()}), std::vector<float>({8700, 1100, 5724}));
     EXPECT_EQ(p.font.name, "Arial");
-}
 
-TEST(ExplodeRun, StepsEndBelowStartAndBoxesReadAtEveryTick) {
-    struct Case { const char* steps; float x1; std::vector<std::string> counters; };
-    for (const Case& c : {Case{"txtSteps=2.5 cmdBegin t3", scalarX1(0.5), texts({1, 2, 3, 0})},  // counts whole
-                          Case{"txtSteps=.5 cmdBegin t2", 5724, texts({1, 0, 1, 0})},  // every tick wraps
-                          Case{"txtSteps=-2 cmdBegin t2", 5724, texts({1, 0, 1, 0})},
-                          Case{"txtStart=2 txtEnd=-2 txtSteps=4 cmdBegin t2", 6000, texts({1, 2})},  // factor 0
-                          Case{"txtStart=2 txtEnd=-2 txtSteps=4 cmdBegin t3", formX(2.3f), texts({1, 2, 3})}}) {
-        Explode e;
-        EXPECT_EQ(e(c.steps).x1(), c.x1) << c.steps;
-        EXPECT_EQ(e.counters(), c.counters) << c.steps;
+    struct Case { const char* steps; float x1; const char* counters; };
+    for (const Case& c : {Case{"txtSteps=2.5 cmdBegin t3", scalarX1(0.5), " 1  2  3  0 "},  // step 1, counts whole
+                          Case{"txtSteps=.5 cmdBegin t2", 5724, " 1  0  1  0 "},           // every tick wraps
+                          Case{"txtSteps=-2 cmdBegin t2", 5724, " 1  0  1  0 "},
+                          Case{"txtStart=2 txtEnd=-2 txtSteps=4 cmdBegin t2", 6000, " 1  2 "},  // factor 0
+                          Case{"txtStart=2 txtEnd=-2 txtSteps=4 cmdBegin t3", formX(2.3f), " 1  2  3 "}}) {
+        Explode r;
+        EXPECT_EQ(r(c.steps).x1(), c.x1) << c.steps;
+        EXPECT_EQ(r.counters(), c.counters) << c.steps;
     }
-    Explode e;
-    e("cmdBegin t1 txtStart=1 t1");
-    EXPECT_EQ(e.x1(), scalarX1(1 + 2 * Single(0.2)));
-    e("optUp t2");  // frame 4: 5400 - 480 - 960 * .2 - 240
-    EXPECT_EQ(e.y1(), Single(5400 - 480 - 960 * double(Single(0.2)) - 240));
-    EXPECT_EQ(e.text("txtY", 0), " 3.8");
-    EXPECT_EQ(e("txtSteps=5 t6").counter(), " 10 ");  // StepCount was taken at Begin
 }
 
-TEST(ExplodeRun, QuitStopsBeginCarriesOnAndMultiplierCyclesRestartFromTheSavedTable) {
-    Explode q;
-    q("cmdBegin t3 cmdQuit");
-    const auto ops = q.t.ops().size();
-    EXPECT_EQ(q("t5").t.ops().size(), ops);  // the last frame stays
-    EXPECT_EQ(q("cmdBegin t1 cmdBegin t1").counter(), " 5 ");  // a Begin while running keeps the counter
+TEST(ExplodeRun, BoxesAreReadAtEveryTickAndQuitStops) {
+    Explode e;
+    EXPECT_EQ(e("cmdBegin t1 txtStart=1 t1").x1(), scalarX1(1 + 2 * Single(0.2)));
+    EXPECT_EQ(e("optUp t2").y1(), Single(5400 - 480 - 960 * double(Single(0.2)) - 240));  // frame 4
+    EXPECT_EQ(e.text("txtY", 0), " 3.8");
+    e("txtSteps=5 t6 cmdQuit clear t5");  // StepCount was taken at Begin; Quit leaves the frame
+    EXPECT_EQ(e.t.ops().size(), 0u);
+    EXPECT_EQ(e("txtSteps=20 cmdBegin t1 cmdBegin t1").counters(), " 11  12 ");  // a Begin while running keeps the counter
+}
 
+TEST(ExplodeRun, MultiplierCyclesRestartFromTheSavedTable) {
     Explode e;
     e("txtSteps=3 optMultiplier cmdBegin");
     for (int n : {1, 2, 3, 1, 2})  // the shear adds y to x; frame 0 is one product of the saved table
         EXPECT_EQ(e("t1").x1(), formX(-2.3f + 2.0 * n)) << n;
     EXPECT_EQ(e.text("txtX", 0), " 1.7");  // -2.3 + 4, a Single just above 1.7
-    e("optScalar txtStart=1 t1");           // another mode keeps the multiplied table
-    EXPECT_EQ(e.x1(), formX((1 + 2 * (3 - 1) / 3.0f) * (-2.3f + 4)));
-    e("cmdQuit");  // Quit brings the saved one back
-    EXPECT_FLOAT_EQ(e.f().ptX(1), -2.3f);
+    EXPECT_EQ(e("optScalar txtStart=1 t1").x1(), formX((1 + 2 * (3 - 1) / 3.0f) * (-2.3f + 4)));  // kept
+    EXPECT_FLOAT_EQ(e("cmdQuit").f().ptX(1), -2.3f);  // Quit brings the saved table back
 }
 
 TEST(ExplodeRunLimits, MessagesUsersSee) {
@@ -69,10 +58,9 @@ TEST(ExplodeRunLimits, MessagesUsersSee) {
     const std::string every = ", so the shape will change every 500 thousandths of a second.";
     Explode e("abc"), cancel("");
     const auto& q = e.t.dialogs()[0];
-    EXPECT_EQ(q.title + "|" + q.prompt + "|" + q.defaultText,
-              "Time interval|Enter the interval in thousandths of seconds|500");
-    EXPECT_EQ(e.t.dialogs()[1].title, "Time interval");
-    EXPECT_EQ(e.t.dialogs()[1].prompt, "\"abc\" is not a whole number of thousandths of seconds from 0 to 32767" + every);
+    const auto& m = e.t.dialogs()[1];
+    EXPECT_EQ(q.title + "|" + q.prompt + "|" + q.defaultText, "Time interval|Enter the interval in thousandths of seconds|500");
+    EXPECT_EQ(m.title + "|" + m.prompt, "Time interval|\"abc\" is not a whole number of thousandths of seconds from 0 to 32767" + every);
     EXPECT_EQ(cancel.t.dialogs()[1].prompt, "No interval was given" + every);
     e("txtSteps=0 cmdBegin cmdPlotPoints mnuSquares txtSteps=40000 cmdBegin txtSteps=200 optUp cmdBegin t140");
     EXPECT_EQ(e.t.faults(), (std::vector<std::string>{
@@ -81,28 +69,20 @@ TEST(ExplodeRunLimits, MessagesUsersSee) {
         "The run has stopped: in Up mode the shape can slide for 136 frames at most. "
         "Please use fewer Steps, then press Begin to run again from frame 1."}));
     EXPECT_EQ(e.text("txtX", 0), "-4");  // the squares were loaded
-    EXPECT_EQ(e.y1(), 4872);  // frame 136 stays: 5400 - (136 * 240) * .0125 - 120
+    EXPECT_EQ(e.y1(), 4872);             // frame 136 stays: 5400 - (136 * 240) * .0125 - 120
     EXPECT_EQ(e.f().stepIndex(), 0);
     EXPECT_FALSE(e.timer().Enabled());
 }
 
-TEST(ExplodeRunLimits, StepsRetypedToZeroDuringARunGiveEmptyFramesSilently) {
+TEST(ExplodeRunLimits, StepsRetypedEmptyGiveEmptyFramesAndUpWrapsPastFrame136) {
     Explode e;
     e("cmdBegin t1 clear txtSteps= t3");
-    EXPECT_EQ(e.t.count(kForm, "line"), 0);
-    EXPECT_EQ(e.counters(), texts({2, 3, 4}));
+    EXPECT_EQ(e.counters() + std::to_string(e.t.count(kForm, "line")), " 2  3  4 0");
     EXPECT_EQ(e("txtSteps=10 t1").frame().size(), 23u);
-    EXPECT_TRUE(e.t.faults().empty());
-}
-
-TEST(ExplodeRunLimits, UpModeWrapsPastFrame136WithoutDrawingIt) {
-    Explode e;
-    e("optUp txtSteps=136 cmdBegin t136 clear t1");  // frame 137 would be wiped in its own tick
-    EXPECT_EQ(e.counters(), texts({137, 0}));
-    EXPECT_EQ(e.t.count(kForm, "line"), 23);
-    EXPECT_EQ(e.y1(), 4800);
+    e("cmdQuit optUp txtSteps=136 cmdBegin t131 clear t1");  // frame 137 would be wiped in its own tick
+    EXPECT_EQ(e.counters() + std::to_string(e.t.count(kForm, "line")), " 137  0 23");
     // A counter left high by a longer run in another mode wraps the same way.
-    EXPECT_EQ(e("optScalar txtSteps=200 t150 optUp txtSteps=10 cmdBegin t2").counter(), " 1 ");
+    EXPECT_EQ(e("optScalar txtSteps=200 cmdBegin t150 optUp txtSteps=10 cmdBegin clear t2").counters(), " 151  0  1 ");
     e("cmdQuit cmdClear @6000,5000 txtSteps=300 cmdBegin t200");  // one point: nothing to place
     EXPECT_TRUE(e.t.faults().empty());
 }
@@ -113,7 +93,6 @@ TEST(ExplodeRunLimits, SingleOverflowAndTheIntegerCounterStopTheRunOnce) {
     EXPECT_EQ(e.t.faults().size(), 1u);
     EXPECT_FLOAT_EQ(e.f().ptX(1), -2.3f);  // back to the table of Begin
     e("@6000,5000 txtSteps=32767 cmdBegin t32770");  // an empty table: cheap frames
-    EXPECT_EQ(e.t.faults().size(), 2u);
+    EXPECT_EQ(e.t.faults().size() * 100000 + e.f().stepIndex(), 232767u);
     EXPECT_FALSE(e.timer().Enabled());
-    EXPECT_EQ(e.f().stepIndex(), 32767);
 }
