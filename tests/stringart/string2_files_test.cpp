@@ -32,9 +32,7 @@ protected:
     std::string path(const std::string& name) const { return (dir / name).string(); }
     void write(const std::string& name, const std::string& bytes) const { std::ofstream(path(name), std::ios::binary) << bytes; }
     std::string read(const std::string& name) const {
-        std::stringstream ss;
-        ss << std::ifstream(path(name), std::ios::binary).rdbuf();
-        return ss.str();
+        return (std::stringstream() << std::ifstream(path(name), std::ios::binary).rdbuf()).str();
     }
     void save(const std::string& name) { t.answer(name); press("mnuSave"); }
     void open(const std::string& name) {  // the question, if any, answered Yes
@@ -78,8 +76,8 @@ TEST_F(String2Files, OpenAsksBeforeReplacingMoreThanThreePoints) {
     write("tri", kTriangle1);
     t.answer("7");
     press("mnuOpen");  // the cube has 14 points
-    EXPECT_EQ(boxes()[0].title + "|" + boxes()[0].prompt, "Are You sure?|You will erase the current string art drawing.");
-    EXPECT_EQ(boxes()[0].buttons, vbYesNo);
+    EXPECT_EQ(boxes()[0].title + "|" + boxes()[0].prompt + "|" + std::to_string(boxes()[0].buttons),
+              "Are You sure?|You will erase the current string art drawing.|" + std::to_string(vbYesNo));
     EXPECT_EQ(last(), "Cancelled Open|File reading has been cancelled");
     EXPECT_EQ(f->lastPoint(), 14);
     EXPECT_TRUE(t.ops().empty());

@@ -27,6 +27,12 @@ protected:
         t.fire(*f, kFormEvents, Event::MouseDown, a);
     }
     void press(const std::string& control) { t.fire(*f, control, Event::Click); }
+    void print(const char* scaled, const char* colours) {  // the two questions' answers
+        t.clear();
+        t.answer(scaled);
+        t.answer(colours);
+        press("cmdPrintIt");
+    }
     void type(const std::string& box, const std::string& text) { t.edit(*f, box, text); }
     void tick(int v) { static_cast<CheckBox*>(f->find("chkColorIt"))->setValue(v); }
     void setPos(int x, int y) { type("txtX", std::to_string(x)); type("txtY", std::to_string(y)); press("lblSetPos"); }
