@@ -73,6 +73,7 @@ struct Explode {
     }
 };
 
+inline std::vector<float> ends(const Stroke& s) { return {s.x1, s.y1, s.x2, s.y2}; }
 // Form position of graph point (x, y), a Single as a stroke's end is.
 inline float formX(double x) { return static_cast<float>(6000 + 240 * x); }
 inline float formY(double y) { return static_cast<float>(5400 - 240 * y); }

@@ -18,7 +18,7 @@ TEST(ExplodeOpening, DesignAndTheRunnerAtHalfSizeCutToTenths) {
     EXPECT_EQ(e.t.count(kForm, "cls"), 0);  // the opening draws over the canvas
     const auto l = e.frame();
     ASSERT_EQ(l.size(), 23u);  // 24 points, an open line; (-2.3, 2) to (-1.2, 1.1) at factor .5
-    EXPECT_EQ(std::vector<float>({l[0].x1, l[0].y1, l[0].x2, l[0].y2}), std::vector<float>({5724, 5160, 5856, 5268}));
+    EXPECT_EQ(ends(l[0]), std::vector<float>({5724, 5160, 5856, 5268}));
     EXPECT_EQ(e.row("txtX"), "-1.2 -.7 -.5 -.2 -.7 -.2 -.5 -.5 -1 -.8 -1 ");
     EXPECT_EQ(e.row("txtY"), " 1  .5  1.1  .6  0  .6  1.1  2  1.6  1.3  1.7 ");
     for (auto [v, want] : std::vector<std::pair<double, std::string>>{
@@ -60,8 +60,7 @@ TEST(ExplodeWaysOut, MenuExitHidesKeyAndFrameUnload) {
     Explode e;
     EXPECT_FALSE(e("mnuExit").f().visible());
     e.open();
-    EventArgs key;
-    e("cmdClear @6000,5000").t.fire(e.f(), kFormEvents, Event::KeyDown, key);
+    e("cmdClear @6000,5000").t.fire(e.f(), kFormEvents, Event::KeyDown, EventArgs{});
     EXPECT_EQ(e.form(), nullptr);
     e.open();  // a new instance: counters from 0
     EXPECT_EQ(e.f().clickCount(), 0);

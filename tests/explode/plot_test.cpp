@@ -4,18 +4,7 @@
 
 using namespace explode_test;
 
-namespace {
 const std::string kRunnerXs = "-2.3 -1.3 -1 -.3 -1.4 -.3 -1 -1 -1.9 -1.5 -1.9 ";
-
-// Smallest and largest x, then y, of a frame's strokes.
-std::vector<float> extent(const std::vector<Stroke>& l) {
-    std::vector<float> r = {1e9f, -1e9f, 1e9f, -1e9f};
-    for (const Stroke& s : l)
-        r = {std::min({r[0], s.x1, s.x2}), std::max({r[1], s.x1, s.x2}), std::min({r[2], s.y1, s.y2}),
-             std::max({r[3], s.y1, s.y2})};
-    return r;
-}
-}
 
 TEST(ExplodePlotPoints, EachModeAtFrame0AndTheTableIsKeptUntilBegin) {
     struct Case { const char* mode; float x1, y1; };
@@ -34,17 +23,16 @@ TEST(ExplodePlotPoints, EachModeAtFrame0AndTheTableIsKeptUntilBegin) {
 
 TEST(ExplodeSamples, SquaresAndTrianglesReachWhereTheyShouldAndKeepLaterEntries) {
     Explode e;
-    auto l = e("txtStart=3 mnuSquares").frame();
+    auto l = e("txtStart=3 mnuSquares").frame();  // (-4, 0) (0, 4) (4, 0) (0, -4) (-4, 0) ... times 3
     ASSERT_EQ(l.size(), 24u);
-    EXPECT_EQ(extent(l), (std::vector<float>{3120, 8880, 2520, 8280}));
-    EXPECT_EQ(l[3].x2, l[0].x1);  // every square closes
+    EXPECT_EQ(std::vector<float>({l[0].x1, l[0].y2, l[1].x2, l[2].y2, l[3].x2}),
+              std::vector<float>({3120, 2520, 8880, 8280, 3120}));  // every square closes
     l = e("txtStart=1 clear mnuTriangles").frame();
     EXPECT_EQ(e.t.opsOf(kForm).front().op, "cls");
     EXPECT_FLOAT_EQ(e.f().ptX(21), 1.0f);  // entries 18 to 25 keep the squares'
-    ASSERT_EQ(l.size(), 16u);
-    EXPECT_EQ(extent(l)[2], formY(3));
-    EXPECT_EQ(extent(l)[3], formY(-5));
-    EXPECT_EQ(l[15].x1, l[12].x1);  // the last side is gone over twice
+    ASSERT_EQ(l.size(), 16u);              // the last side, (0, -5) to (-4, 3), is gone over twice
+    EXPECT_EQ(ends(l[15]), std::vector<float>({6000, formY(-5), formX(-4), formY(3)}));
+    EXPECT_EQ(ends(l[12]), ends(l[15]));
 }
 
 TEST(ExplodeSamples, MultiplierModeKeepsThePlainShapeOnlyUntilTheMatrixIsRead) {
@@ -68,8 +56,7 @@ TEST(ExplodeClicks, ClickedPointsAreStoredShownJoinedAndRun) {
     Explode e;
     e("cmdClear clear @6120,5040");  // graph (.5, 1.5): a dot, no line
     EXPECT_EQ(e.t.count(kForm, "pset") * 10 + e.t.count(kForm, "line"), 10);
-    const Stroke s = e("@5700,5760").t.lines(kForm).at(0);  // graph (-1.25, -1.5)
-    EXPECT_EQ(std::vector<float>({s.x1, s.y1, s.x2, s.y2}), std::vector<float>({6120, 5040, 5700, 5760}));
+    EXPECT_EQ(ends(e("@5700,5760").t.lines(kForm).at(0)), std::vector<float>({6120, 5040, 5700, 5760}));  // (-1.25, -1.5)
     e("@6240,5400");
     EXPECT_EQ(e.text("txtY", 0) + e.text("txtX", 1) + e.text("txtX", 3), " 1.5-1.3-.2");  // the opening's column stays
     EXPECT_EQ(e("txtStart=1 cmdBegin t1").frame().size(), 2u);  // three points, an open line
@@ -88,6 +75,5 @@ TEST(ExplodeClicks, TheTableStopsAt199AndCutsAtTheOldCountAfterASample) {
     Explode s;
     s("cmdClear @7000,4000 @7100,4000 @7200,4000 @7300,4000 mnuSquares clear @6000,5400");
     EXPECT_EQ(s.f().pointCount(), 5);
-    const Stroke j = s.t.lines(kForm).at(0);  // joined from the squares' fourth point
-    EXPECT_EQ(std::vector<float>({j.x1, j.y1}), std::vector<float>({formX(0), formY(-4)}));
+    EXPECT_EQ(ends(s.t.lines(kForm).at(0)), std::vector<float>({formX(0), formY(-4), 6000, 5400}));  // from the squares' 4th
 }
