@@ -62,9 +62,9 @@ TEST(StickScreen, DefaultsCountOfEachRowAndTheTurnedSide) {
         {"54", "8", false, 2, 2400},     // Count 1: one stick, no cell
         {"54", "20", false, 1, 2400},    // Count 0: the base only
         {"5", ".5", false, 17, 2400},    // past the box's limits a drawing still takes the angle
-        {"175", ".5", false, 9, 0},     // 5817 / 720: 8 sticks under the base
+        {"175", ".5", false, 9, 0},      // 5817 / 720: 8 sticks under the base
         {"54", "-.5", false, 1, 2400},   // Count -16: the base alone
-        {"54", "-.5", true, 4, 0},      // two bases and two first leg steps
+        {"54", "-.5", true, 4, 0},       // two bases and two first leg steps
         {"54", ".5", true, 43, 13832},   // 10 a side; walks of 9 and 10; turned vertex
     };  // startX 0: not checked
     for (const auto& r : rows) {
