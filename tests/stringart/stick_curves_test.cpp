@@ -70,7 +70,7 @@ TEST(StickScreen, DefaultsCountOfEachRowAndTheTurnedSide) {
     for (const auto& r : rows) {
         StickForm s;
         s.set(r.angle, r.tics, r.doubled, "optNoColor").click("cmdDrawIt");
-        if (r.startX) EXPECT_EQ(s.f->vertex().StartX, r.startX) << r.angle;
+        if (r.startX) { EXPECT_EQ(s.f->vertex().StartX, r.startX) << r.angle; }
         s.click("cmdPrintIt");
         EXPECT_TRUE(s.t.faults().empty()) << r.angle << " " << r.tics;
         EXPECT_EQ(black(s.canvas()).size(), r.black) << r.angle << " " << r.tics;
@@ -198,8 +198,10 @@ TEST(StickAngle, LabelStepsByFiveAndTheBoxRefusesOutside10To170) {
         s.t.fire(*s.f, "txtAngle", Event::LostFocus);
         const bool ok = Val(typed) >= 10 && Val(typed) <= 170;
         ASSERT_EQ(s.t.dialogs().size(), ok ? 0u : 1u) << typed;
-        if (!ok) EXPECT_EQ(s.t.dialogs()[0].title + "|" + s.t.dialogs()[0].prompt + std::to_string(s.t.dialogs()[0].buttons),
-                           "Angle Error|You must enter an angle >10 and < 17016");
+        if (!ok) {
+            EXPECT_EQ(s.t.dialogs()[0].title + "|" + s.t.dialogs()[0].prompt + std::to_string(s.t.dialogs()[0].buttons),
+                      "Angle Error|You must enter an angle >10 and < 17016");
+        }
     }
 }
 
@@ -228,7 +230,7 @@ TEST(StickBadInput, EachEndsAtOnceAndTheFormGoesOn) {
         s.set(c.angle, c.tics, false, c.fill).click(c.button);
         const std::string at = std::string(c.button) + " " + c.angle + " " + c.tics;
         ASSERT_EQ(s.t.faults().size(), c.says ? 1u : 0u) << at;
-        if (c.says) EXPECT_NE(s.t.faults()[0].find(c.says), std::string::npos) << s.t.faults()[0];
+        if (c.says) { EXPECT_NE(s.t.faults()[0].find(c.says), std::string::npos) << s.t.faults()[0]; }
         size_t n = 0;
         for (const Stroke& st : black(std::string(c.button) == "cmdPrintIt" ? s.page() : s.canvas()))
             n += std::string(c.button) != "cmdAnimate" || (st.x1 == 4000 && st.x2 == 13500);
