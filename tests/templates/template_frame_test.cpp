@@ -48,7 +48,8 @@ TEST(TemplateFrame, DesignTextsAndInfoBoxes) {
                                      form.InRange(Val("0")), form.InRange(Val("abc")), form.InRange(-1)}),
                   std::vector<bool>({true, w.topIn, false, false, false, false}));
         for (const auto& c : d.controls) {  // the preview begins at x = 3000
-            if (c.kind != ControlKind::Menu) EXPECT_LE(c.left + c.width, 2775) << c.name;
+            if (c.kind == ControlKind::Menu) continue;
+            EXPECT_LE(c.left + c.width, 2775) << c.name;
         }
         t.clear();
         t.fire(f, "mnuInfo", Event::Click);  // the boxes one after the other, nothing drawn
@@ -99,7 +100,6 @@ TEST(TemplateFrame, TypingExitPrintAndClosing) {
         EXPECT_TRUE(t.lines(w.form).empty());
         t.fire(f, "cmdExit", Event::Click);
         Form& again = t.show(w.form);
-        EXPECT_EQ(&again, &f);
         EXPECT_EQ(TextOf(again), "6");
         t.app().closeByFrame(again);
         EXPECT_TRUE(again.unloaded());
