@@ -19,7 +19,7 @@ float rightAt(const Page& s, float y) {
 }
 }
 
-TEST(TriangleSheet, TheExampleCellTextsCutAsTheConversionsSayAndTheOddBase) {
+TEST(TriangleSheet, TheExampleCellsTextsCutAsTheConversionsSayAndTheOddBase) {
     // 1.0003 inch is still 1440 twips; 60.9 is taken as 60 degrees. Stroke 4
     // is Line -Step(base, 0), stroke 5 goes up to the next apex.
     const float ends[5][2] = {{2160, 0}, {1440, 1247}, {0, 1247}, {1440, 1247}, {2160, 0}};
@@ -32,7 +32,16 @@ TEST(TriangleSheet, TheExampleCellTextsCutAsTheConversionsSayAndTheOddBase) {
         EXPECT_TRUE(s.t.faults().empty());
         EXPECT_EQ(s.t.count("Printer", "enddoc"), 1);
     }
-    EXPECT_EQ(sheet("1", "60").lines()[0].width, 2);
+    auto l = sheet("1", "60").lines();
+    EXPECT_EQ(l[0].width, 2);
+    // Row 1's cell at 0 has no up stroke: after its right flank (0,1247)-(720,2494)
+    // the left flank runs off the page, stroke 4 goes on from its true end, and
+    // the next cell follows.
+    size_t i = 1;
+    while (!(l[i].x1 == 0 && l[i].y1 == 1247 && l[i].x2 == 720)) ++i;
+    EXPECT_EQ(l[i + 1].x2, -720);
+    EXPECT_EQ(l[i + 2].x1, -720); EXPECT_EQ(l[i + 2].x2, 720);
+    EXPECT_EQ(l[i + 3].x1, 1440); EXPECT_EQ(l[i + 3].y1, 1247);
     auto odd = sheet("1.0007", "60").lines();  // base 1441
     EXPECT_EQ(odd[0].x1, 720);           // CInt(720.5) is 720
     EXPECT_EQ(odd[1].x2, 720.5f + 720);  // base / 2 + x keeps the half
@@ -60,18 +69,6 @@ TEST(TriangleSheet, LoopEndsFollowThePrintableArea) {
         EXPECT_EQ(bottom, c.bottom);
     }
     EXPECT_EQ(sheet("1", "60", "2", 32767).lines().size(), 6u * 22 * 5 + 6u * (23 * 5 - 1));
-}
-
-TEST(TriangleSheet, TheCellAtZeroHasNoUpStroke) {
-    auto l = sheet("1", "60").lines();
-    // Row 1's first cell: the stroke before its right flank (0,1247)-(720,2494).
-    size_t i = 1;
-    while (!(l[i + 1].x1 == 0 && l[i + 1].y1 == 1247 && l[i + 1].x2 == 720)) ++i;
-    EXPECT_EQ(l[i + 2].x2, -720);  // the left flank runs off the page
-    EXPECT_EQ(l[i + 3].x1, -720);  // stroke 4 goes on from its true end
-    EXPECT_EQ(l[i + 3].x2, 720);
-    EXPECT_EQ(l[i + 4].x1, 1440);  // no stroke 5: the next cell follows
-    EXPECT_EQ(l[i + 4].y1, 1247);
 }
 
 TEST(TriangleSheet, ImpossibleValuesComeBackAtOnceWithAMessageAndNoSheet) {
