@@ -13,7 +13,7 @@ using namespace gp::test;
 
 TEST(HalfCube, OneCopyIsTheOutlineWalkThenTheDashedFolds) {
     TestApp t;
-    auto l = PrintAt(t, "frmHalfCube", "1");
+    auto l = DrawAt(t, "frmHalfCube", "1", true);
     // side 1440, flapHeight 1018, halfSide 720, copy at (1018, 1018): the
     // leftmost tip lands on x = 0 and the topmost on y = 0.
     const float X = 1018, Y = 1018;
@@ -33,20 +33,20 @@ TEST(HalfCube, OneCopyIsTheOutlineWalkThenTheDashedFolds) {
     // On the canvas the bottom flaps of the last copy run on below 8400.
     TestApp p;
     float bottom = 0;
-    for (const Stroke& s : PreviewAt(p, "frmHalfCube", "1")) bottom = std::max({bottom, s.y1, s.y2});
+    for (const Stroke& s : DrawAt(p, "frmHalfCube", "1", false)) bottom = std::max({bottom, s.y1, s.y2});
     EXPECT_EQ(bottom, 8592);
 }
 
 TEST(HalfCube, AnOddSideEndsTheWalkOneUnitLeftOfAndAboveItsStart) {
     TestApp t;
-    auto l = PreviewAt(t, "frmHalfCube", "1.00125");  // side 801, halfSide 400
+    auto l = DrawAt(t, "frmHalfCube", "1.00125", false);  // side 801, halfSide 400
     ASSERT_GE(l.size(), 21u);
     EXPECT_EQ(l[13].x2, l[0].x1 - 1);
     EXPECT_EQ(l[13].y2, l[0].y1 - 1);
     // The second copy stands Int(801 * 2.707) right and halfSide lower.
     EXPECT_EQ(l[20].x1 - l[0].x1, 2168);
     EXPECT_EQ(l[20].y1 - l[0].y1, 400);
-    EXPECT_EQ(PreviewAt(t, "frmHalfCube", "3")[0].x1, 3000 + 1697);  // one copy, off the canvas
+    EXPECT_EQ(DrawAt(t, "frmHalfCube", "3", false)[0].x1, 3000 + 1697);  // one copy, off the canvas
     // The first copy comes before any test: past half the Integer range the
     // preview is left blank, silently.
     TestApp u;
@@ -56,7 +56,7 @@ TEST(HalfCube, AnOddSideEndsTheWalkOneUnitLeftOfAndAboveItsStart) {
 
 TEST(RhombiCube, TheWalkChangesStyleOnlyWhereTheFoldsAre) {
     TestApp t;
-    auto l = PrintAt(t, "frmRhombiCube", "1");
+    auto l = DrawAt(t, "frmRhombiCube", "1", true);
     ASSERT_GE(l.size(), 19u);
     const int styles[19] = {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 1, 0, 1, 0, 1, 1};
     for (int i = 0; i < 19; ++i) {
@@ -77,7 +77,7 @@ TEST(RhombiCube, TheWalkChangesStyleOnlyWhereTheFoldsAre) {
     EXPECT_NEAR(l[18].x2, l[5].x2, 0.01);
     EXPECT_NEAR(l[18].y2, l[5].y2, 0.01);
     // Offsets stay unrounded until they reach the surface.
-    l = PreviewAt(t, "frmRhombiCube", "1.00125");  // side 801
+    l = DrawAt(t, "frmRhombiCube", "1.00125", false);  // side 801
     ASSERT_GE(l.size(), 1u);
     const double acute = 3.141592653 - 2 * std::atan(std::sqrt(2.0));
     EXPECT_FLOAT_EQ(l[0].x2, float(3000 + 801 * std::cos(acute)));
@@ -86,7 +86,7 @@ TEST(RhombiCube, TheWalkChangesStyleOnlyWhereTheFoldsAre) {
 
 TEST(OneSixthCube, ThirteenStrokesBetweenCorners) {
     TestApp t;
-    auto l = PrintAt(t, "frmOneSixthCube", "1");
+    auto l = DrawAt(t, "frmOneSixthCube", "1", true);
     ASSERT_GE(l.size(), 13u);
     // At side 1440 from the copy at (480, 300): corners 1 to 8.
     const float cx[9] = {0, 0, 0, 1440, 1440, 720, 1867, 640, -480};

@@ -12,7 +12,7 @@ using namespace gp::test;
 
 TEST(RhombiDodec, OneClosedWalkThenElevenFolds) {
     TestApp t;
-    auto ls = PrintAt(t, "frmRhombiDodec", "1");  // first copy at (1600, 0)
+    auto ls = DrawAt(t, "frmRhombiDodec", "1", true);  // first copy at (1600, 0)
     ASSERT_GE(ls.size(), kRhombiDodecStrokes);
     for (size_t i = 1; i < kRhombiDodecStrokes; ++i) {
         EXPECT_EQ(Point(ls[i].x1, ls[i].y1), Point(ls[i - 1].x2, ls[i - 1].y2)) << i;  // no break
@@ -58,7 +58,7 @@ TEST(RhombiDodec, LabelFollowsTheFlooredSideAndStays) {
 
 TEST(GreatDodeca, PartsArmWalkStylesAndFloors) {
     TestApp t;
-    auto ls = PrintAt(t, "frmGreatDodeca", "1.5");  // side 2160, first copy at (0, 4590)
+    auto ls = DrawAt(t, "frmGreatDodeca", "1.5", true);  // side 2160, first copy at (0, 4590)
     ASSERT_GE(ls.size(), 65u);
     const int style[13] = {0, 0, 1, 0, 0, 1, 1, 0, 0, 1, 0, 1, 1};
     float top = 1e9f;

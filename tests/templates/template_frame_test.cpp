@@ -39,7 +39,8 @@ TEST(TemplateFrame, DesignTextsAndInfoBoxes) {
         EXPECT_EQ(std::make_tuple(d.caption, d.clientWidth, d.clientHeight, d.backColor, TextOf(f)),
                   std::make_tuple(std::string(w.caption), 9405, w.height, w.back, std::string(w.text)));
         auto caption = [&](const char* name) { return static_cast<Label*>(f.find(name))->Caption() + "|"; };
-        EXPECT_EQ(caption("mnuInfo") + caption("cmdPrintIt") + caption("cmdExit"), w.info + std::string("|Print It|E&xit|"));
+        EXPECT_EQ(caption("mnuInfo") + caption("cmdPrintIt") + caption("cmdExit"),
+                  w.info + std::string("|Print It|E&xit|"));
         EXPECT_EQ(f.find("cmdPrintIt")->design().backColor, RGB(255, 255, 0));
         EXPECT_EQ(f.handles(kFormEvents, Event::QueryUnload), w.queryUnload);
         // The range of txtLeng_Change's redraw.
@@ -54,7 +55,8 @@ TEST(TemplateFrame, DesignTextsAndInfoBoxes) {
         t.clear();
         t.fire(f, "mnuInfo", Event::Click);  // the boxes one after the other, nothing drawn
         std::vector<std::string> titles;
-        for (const auto& d : t.dialogs()) titles.push_back(d.kind + " " + std::to_string(d.buttons) + " " + d.title);
+        for (const auto& box : t.dialogs())
+            titles.push_back(box.kind + " " + std::to_string(box.buttons) + " " + box.title);
         for (std::string& want : w.titles) want = "msgbox 0 " + want;
         EXPECT_EQ(titles, w.titles);
         EXPECT_EQ(t.dialogs().back().prompt.rfind(w.lastPromptStart, 0), 0u) << t.dialogs().back().prompt;

@@ -27,7 +27,7 @@ inline Points Grid(std::vector<float> xs, std::vector<float> ys) {  // row by ro
 
 inline std::string TextOf(Form& f) { return static_cast<TextBox*>(f.find("txtLeng"))->Text(); }
 
-// Types the text (one Change), then prints or not; what the print or the Change drew.
+// Types the text (one Change), then prints or not: what the print or the Change drew.
 inline std::vector<Stroke> DrawAt(TestApp& t, const std::string& form, const std::string& text, bool print) {
     Form& f = t.show(form);
     t.clear();
@@ -36,12 +36,6 @@ inline std::vector<Stroke> DrawAt(TestApp& t, const std::string& form, const std
     t.clear();
     t.fire(f, "cmdPrintIt", Event::Click);
     return t.lines("Printer");
-}
-inline std::vector<Stroke> PrintAt(TestApp& t, const std::string& form, const std::string& text) {
-    return DrawAt(t, form, text, true);
-}
-inline std::vector<Stroke> PreviewAt(TestApp& t, const std::string& form, const std::string& text) {
-    return DrawAt(t, form, text, false);
 }
 
 // The preview of the next opening after Exit with the text: no range test.
