@@ -174,15 +174,15 @@ Form& BatchRunner::current() {
     return *shown_.back();
 }
 
-Control& BatchRunner::control(const std::string& spec) {
-    std::string name = spec;
+Control& BatchRunner::control(const std::string& word) {
+    std::string name = word;
     int index = -1;
-    const size_t open = spec.find('(');
-    if (open != std::string::npos && spec.back() == ')') {
+    const size_t open = word.find('(');
+    if (open != std::string::npos && word.back() == ')') {
         long long i = 0;
-        if (!parseWhole(spec.substr(open + 1, spec.size() - open - 2), i) || i < 0 || i > 32767)
-            bad(lineNo_, "bad control index in " + spec);
-        name = spec.substr(0, open);
+        if (!parseWhole(word.substr(open + 1, word.size() - open - 2), i) || i < 0 || i > 32767)
+            bad(lineNo_, "bad control index in " + word);
+        name = word.substr(0, open);
         index = static_cast<int>(i);
     }
     Form& f = current();
@@ -192,7 +192,7 @@ Control& BatchRunner::control(const std::string& spec) {
         for (const auto& other : f.controls())
             if (other->name() == name) { c = other.get(); break; }
     }
-    if (!c) bad(lineNo_, "there is no control " + spec + " on " + f.name());
+    if (!c) bad(lineNo_, "there is no control " + word + " on " + f.name());
     return *c;
 }
 
