@@ -78,7 +78,9 @@ TEST(Printing, EachClickIsOneSheetOnTheDefaultPrinterAtTrueSize) {
     const QString outDir = QString::fromStdString(out);
     const int before = pdfsIn(outDir).size();
 
-    ASSERT_EQ(runChild("cups", ""), 0);
+    // The queue is this user's default printer for the run, as the CUPS
+    // environment variables make it.
+    ASSERT_EQ(runChild("cups", "PRINTER=GridPagesPDF LPDEST=GridPagesPDF"), 0);
     // The queue hands the jobs on in its own time.
     QStringList after;
     for (int i = 0; i < 300; ++i) {
