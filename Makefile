@@ -87,8 +87,10 @@ PREFIX ?= /usr/local
 # the desktop's menu.
 install: build
 	$(SUDO) cmake --install $(BUILD_DIR) --prefix $(PREFIX)
-	-$(SUDO) update-desktop-database $(PREFIX)/share/applications 2>/dev/null
-	-$(SUDO) gtk-update-icon-cache -q -t $(PREFIX)/share/icons/hicolor 2>/dev/null
+	@if command -v update-desktop-database >/dev/null; then \
+	  $(SUDO) update-desktop-database $(PREFIX)/share/applications; fi
+	@if command -v gtk-update-icon-cache >/dev/null; then \
+	  $(SUDO) gtk-update-icon-cache -q -t $(PREFIX)/share/icons/hicolor; fi
 
 clean:
 	rm -rf $(BUILD_DIR)
