@@ -15,6 +15,7 @@
 namespace gp {
 
 struct ShapePoint;  // one row of a preset table (string_shapes.h)
+struct ShapeTable;  // a whole preset table (string_shapes.h)
 
 class FrmString2 : public Form {
 public:
@@ -86,6 +87,7 @@ private:
     // LineRed, LineGreen, LineBlue for one Lin or one corner.
     void PickColour();
     void StoreShape(const ShapePoint* table, int count, Integer cx, Integer cy);
+    void LoadShape(const ShapeTable& table, Double lo = 0, Double span = 0);
     void Tetrahedron(Integer last);
 
     TextBox& txtTics;

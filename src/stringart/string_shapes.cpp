@@ -115,51 +115,26 @@ void FrmString2::StoreShape(const ShapePoint* points, int count, Integer cx, Int
     LastPoint = count;
 }
 
-void FrmString2::mnuCube_Click() {
-    const ShapeTable t = CubeShape();
+// A preset: refused before any point changes when its strings would be too
+// many; the random point C is drawn only after that test, within
+// [lo, lo + span) on both axes.
+void FrmString2::LoadShape(const ShapeTable& t, Double lo, Double span) {
     CheckFigure(t.count, 1);
-    StoreShape(t.points, t.count, 0, 0);
-    Redraw();
-}
-
-void FrmString2::mnuTriangle1_Click() {
-    const ShapeTable t = Triangle1Shape();
-    CheckFigure(t.count, 1);
-    StoreShape(t.points, t.count, 0, 0);
-    Redraw();
-}
-
-void FrmString2::mnuTriangle2_Click() {
-    const ShapeTable t = Triangle2Shape();
-    CheckFigure(t.count, 1);
-    StoreShape(t.points, t.count, 0, 0);
-    Redraw();
-}
-
-void FrmString2::mnuOcta1_Click() {
-    const ShapeTable t = Octagon1Shape();
-    CheckFigure(t.count, 1);
-    const Integer cx = CInt(Int(Rnd() * 4000.0) + 2000);
-    const Integer cy = CInt(Int(Rnd() * 4000.0) + 2000);
+    Integer cx = 0, cy = 0;
+    if (span > 0) {
+        cx = CInt(Int(Rnd() * span) + lo);
+        cy = CInt(Int(Rnd() * span) + lo);
+    }
     StoreShape(t.points, t.count, cx, cy);
     Redraw();
 }
 
-void FrmString2::mnuOcta2_Click() {
-    const ShapeTable t = Octagon2Shape();
-    CheckFigure(t.count, 1);
-    StoreShape(t.points, t.count, 0, 0);
-    Redraw();
-}
-
-void FrmString2::mnuOcta3_Click() {
-    const ShapeTable t = Octagon3Shape();
-    CheckFigure(t.count, 1);
-    const Integer cx = CInt(Int(Rnd() * 1000.0) + 3600);
-    const Integer cy = CInt(Int(Rnd() * 1000.0) + 3600);
-    StoreShape(t.points, t.count, cx, cy);
-    Redraw();
-}
+void FrmString2::mnuCube_Click() { LoadShape(CubeShape()); }
+void FrmString2::mnuTriangle1_Click() { LoadShape(Triangle1Shape()); }
+void FrmString2::mnuTriangle2_Click() { LoadShape(Triangle2Shape()); }
+void FrmString2::mnuOcta1_Click() { LoadShape(Octagon1Shape(), 2000, 4000); }
+void FrmString2::mnuOcta2_Click() { LoadShape(Octagon2Shape()); }
+void FrmString2::mnuOcta3_Click() { LoadShape(Octagon3Shape(), 3600, 1000); }
 
 // Triangle2 drawn whole, then its chain goes on through points 12 to 21;
 // the corner at point 11 is drawn a second time.

@@ -127,20 +127,9 @@ void FrmHalfCube::DrawFigure(DrawingSurface& P, Integer side, bool preview) {
 
     checkTiling(preview, side, 20, tiling);
 
-    class Drawer : public TileSink {
-    public:
-        Drawer(DrawingSurface& p, Integer s, Double f, Integer h) : P(p), side(s), flapHeight(f), halfSide(h) {}
-        void copy(Integer tileX, Integer tileY) override {
-            DrawHalfCube(P, tileX, tileY, side, flapHeight, halfSide);
-        }
-
-    private:
-        DrawingSurface& P;
-        Integer side;
-        Double flapHeight;
-        Integer halfSide;
-    };
-    Drawer drawer(P, side, flapHeight, halfSide);
+    CopyDrawer drawer([&](Integer tileX, Integer tileY) {
+        DrawHalfCube(P, tileX, tileY, side, flapHeight, halfSide);
+    });
     tiling(drawer);
 }
 

@@ -114,16 +114,7 @@ void FrmOneSixthCube::DrawFigure(DrawingSurface& P, Integer side, bool preview) 
     };
     checkTiling(preview, side, 13, tiling);
 
-    class Drawer : public TileSink {
-    public:
-        Drawer(DrawingSurface& p, const SixthCubeCorners& c) : P(p), corners(c) {}
-        void copy(Integer tileX, Integer tileY) override { DrawOneSixthCube(P, tileX, tileY, corners); }
-
-    private:
-        DrawingSurface& P;
-        const SixthCubeCorners& corners;
-    };
-    Drawer drawer(P, c);
+    CopyDrawer drawer([&](Integer tileX, Integer tileY) { DrawOneSixthCube(P, tileX, tileY, c); });
     tiling(drawer);
 }
 

@@ -107,16 +107,7 @@ void FrmRhombiCube::DrawFigure(DrawingSurface& P, Integer side, bool preview) {
     };
     checkTiling(preview, side, 19, tiling);
 
-    class Drawer : public TileSink {
-    public:
-        Drawer(DrawingSurface& p, Integer s) : P(p), side(s) {}
-        void copy(Integer tileX, Integer tileY) override { DrawRhombiCube(P, tileX, tileY, side); }
-
-    private:
-        DrawingSurface& P;
-        Integer side;
-    };
-    Drawer drawer(P, side);
+    CopyDrawer drawer([&](Integer tileX, Integer tileY) { DrawRhombiCube(P, tileX, tileY, side); });
     tiling(drawer);
 }
 

@@ -46,16 +46,6 @@ constexpr ArmStroke kArm[kStrokesPerArm] = {
     {Long, 324, 0},  {Short, 180, 1}, {Short, 252, 1},
 };
 
-class CopyDrawer : public TileSink {
-public:
-    CopyDrawer(DrawingSurface& s, const GreatDodecaParts& p) : S(s), p_(p) {}
-    void copy(Integer tileX, Integer tileY) override { DrawGreatDodecaCopy(S, p_, tileX, tileY); }
-
-private:
-    DrawingSurface& S;
-    const GreatDodecaParts& p_;
-};
-
 } // namespace
 
 GreatDodecaParts GreatDodecaPartsFor(Integer side) {
@@ -132,7 +122,7 @@ void TileGreatDodeca(TileSink& sink, const GreatDodecaParts& p, Integer surfaceW
 
 void DrawGreatDodecaSheet(DrawingSurface& S, Integer side, int rowStart) {
     const GreatDodecaParts p = GreatDodecaPartsFor(side);
-    CopyDrawer drawer(S, p);
+    CopyDrawer drawer([&](Integer tileX, Integer tileY) { DrawGreatDodecaCopy(S, p, tileX, tileY); });
     TileGreatDodeca(drawer, p, CInt(S.ScaleWidth()), CInt(S.ScaleHeight()), rowStart);
 }
 

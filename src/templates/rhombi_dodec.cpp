@@ -18,16 +18,6 @@ RhombiAngles Angles() {
     return {std::cos(acuteAngle), std::sin(acuteAngle), std::cos(slantAngle), std::sin(slantAngle)};
 }
 
-class CopyDrawer : public TileSink {
-public:
-    CopyDrawer(DrawingSurface& s, Integer side) : S(s), side_(side) {}
-    void copy(Integer tileX, Integer tileY) override { DrawRhombiDodecCopy(S, side_, tileX, tileY); }
-
-private:
-    DrawingSurface& S;
-    Integer side_;
-};
-
 } // namespace
 
 bool RhombiDodecWantsWarning(Integer side, int unitsPerInch) {
@@ -89,7 +79,7 @@ void TileRhombiDodec(TileSink& sink, Integer side, Integer surfaceW, Integer sur
 }
 
 void DrawRhombiDodecSheet(DrawingSurface& S, Integer side, int rowStart) {
-    CopyDrawer drawer(S, side);
+    CopyDrawer drawer([&](Integer tileX, Integer tileY) { DrawRhombiDodecCopy(S, side, tileX, tileY); });
     TileRhombiDodec(drawer, side, CInt(S.ScaleWidth()), CInt(S.ScaleHeight()), rowStart);
 }
 

@@ -43,6 +43,16 @@ public:
     virtual void row() {}
 };
 
+// The sink of a real run: each copy is drawn by the figure's own routine.
+class CopyDrawer : public TileSink {
+public:
+    explicit CopyDrawer(std::function<void(Integer, Integer)> draw) : draw_(std::move(draw)) {}
+    void copy(Integer tileX, Integer tileY) override { draw_(tileX, tileY); }
+
+private:
+    std::function<void(Integer, Integer)> draw_;
+};
+
 struct TemplateDescription {
     std::string name;
     std::string caption;
