@@ -1,15 +1,12 @@
 #include "platform/form_view.h"
 
-#include <QAction>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QEventLoop>
-#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
@@ -17,68 +14,13 @@
 #include <QRadioButton>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <QWindow>
 
 #include "platform/canvas_device.h"
 #include "platform/qt_drawing.h"
-#include "platform/wrap_button.h"
+#include "platform/qt_input.h"
 #include "shell/form_set.h"
 
 namespace gp {
-
-namespace {
-int px(int twips) { return static_cast<int>(twips / kTwipsPerPixel + 0.5); }
-
-QString colourSheet(const char* property, long colour) {
-    if (colour == kDefaultColor) return {};
-    if (colour == kTransparent) return QString("%1: transparent;").arg(property);
-    const QColor c = colour == kSystem3DHighlight ? QColor(255, 255, 255) : toQColor(colour);
-    return QString("%1: %2;").arg(property, c.name());
-}
-
-// Qt's key codes to the classic ones that handlers test.
-int classicKeyCode(const QKeyEvent* e) {
-    const int k = e->key();
-    if ((k >= Qt::Key_A && k <= Qt::Key_Z) || (k >= Qt::Key_0 && k <= Qt::Key_9)) return k;
-    if (k >= Qt::Key_F1 && k <= Qt::Key_F24) return 112 + (k - Qt::Key_F1);
-    switch (k) {
-    case Qt::Key_Backspace: return 8;
-    case Qt::Key_Tab: return 9;
-    case Qt::Key_Return:
-    case Qt::Key_Enter: return 13;
-    case Qt::Key_Shift: return 16;
-    case Qt::Key_Control: return 17;
-    case Qt::Key_Alt: return 18;
-    case Qt::Key_Escape: return 27;
-    case Qt::Key_Space: return 32;
-    case Qt::Key_PageUp: return 33;
-    case Qt::Key_PageDown: return 34;
-    case Qt::Key_End: return 35;
-    case Qt::Key_Home: return 36;
-    case Qt::Key_Left: return 37;
-    case Qt::Key_Up: return 38;
-    case Qt::Key_Right: return 39;
-    case Qt::Key_Down: return 40;
-    case Qt::Key_Insert: return 45;
-    case Qt::Key_Delete: return 46;
-    default: return k & 0xFFFF;
-    }
-}
-
-int mouseButton(Qt::MouseButton b) {
-    switch (b) {
-    case Qt::LeftButton: return 1;
-    case Qt::RightButton: return 2;
-    case Qt::MiddleButton: return 4;
-    default: return 0;
-    }
-}
-
-int shiftState(Qt::KeyboardModifiers m) {
-    return (m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) |
-           (m & Qt::AltModifier ? 4 : 0);
-}
-} // namespace
 
 // The client area: the canvas image, then the shapes and lines that sit on
 // it, then the widgets (children) above them.
@@ -124,11 +66,11 @@ FormView::FormView(FormSet& app, Form& form) : QDialog(nullptr), app_(app), form
 
 FormView::~FormView() = default;
 
-QPoint FormView::toPixels(int twipsX, int twipsY) const { return QPoint(px(twipsX), px(twipsY)); }
+QPoint FormView::toPixels(int twipsX, int twipsY) const { return QPoint(pixelsOf(twipsX), pixelsOf(twipsY)); }
 
 void FormView::build() {
     const FormDesign& fd = form_.design();
-    const int w = px(fd.clientWidth), h = px(fd.clientHeight);
+    const int w = pixelsOf(fd.clientWidth), h = pixelsOf(fd.clientHeight);
     setFont(toQFont(fd.font));
     buildMenus();
     // The menu bar sits above the client area, which keeps its design size;
@@ -182,109 +124,6 @@ void FormView::build() {
         }
         widgets_[c.get()] = w;
         controlOf_[w] = c.get();
-    }
-}
-
-QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* parent) {
-    QWidget* w = nullptr;
-    QString sheet;
-    switch (d.kind) {
-    case ControlKind::TextBox: {
-        auto* e = new QLineEdit(qs(static_cast<TextBox&>(c).Text()), parent);
-        connect(e, &QLineEdit::textEdited, this, [this, &c](const QString& t) {
-            app_.guarded(form_, [&] { static_cast<TextBox&>(c).userEdit(t.toStdString()); });
-            refreshCanvas();
-        });
-        e->installEventFilter(this);
-        w = e;
-        break;
-    }
-    case ControlKind::Button: {
-        auto* b = new WrapButton(qs(d.caption), parent);
-        b->setAutoDefault(false);
-        connect(b, &QPushButton::clicked, this, [this, &c] {
-            EventArgs a;
-            a.index = c.index();
-            dispatch(c.name(), Event::Click, a);
-        });
-        w = b;
-        break;
-    }
-    case ControlKind::Label: {
-        auto* l = new QLabel(qs(d.caption), parent);
-        l->setWordWrap(true);
-        l->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        l->setTextFormat(Qt::PlainText);
-        l->installEventFilter(this);
-        if (d.backColor == kDefaultColor) sheet += "background: transparent;";
-        w = l;
-        break;
-    }
-    case ControlKind::CheckBox: {
-        auto* b = new QCheckBox(qs(d.caption), parent);
-        b->setChecked(d.value != 0);
-        connect(b, &QCheckBox::clicked, this, [this, &c](bool on) {
-            static_cast<CheckBox&>(c).setValue(on ? 1 : 0);
-            dispatch(c.name(), Event::Click);
-        });
-        w = b;
-        break;
-    }
-    case ControlKind::Option: {
-        auto* b = new QRadioButton(qs(d.caption), parent);
-        b->setChecked(d.value != 0);
-        connect(b, &QRadioButton::clicked, this, [this, &c] {
-            static_cast<OptionButton&>(c).select();
-            dispatch(c.name(), Event::Click);
-        });
-        w = b;
-        break;
-    }
-    case ControlKind::Frame: {
-        auto* g = new QGroupBox(qs(d.caption), parent);
-        w = g;
-        break;
-    }
-    default: return nullptr;
-    }
-    w->setGeometry(QRect(toPixels(d.left, d.top), QSize(px(d.width), px(d.height))));
-    if (d.font) w->setFont(toQFont(*d.font));
-    sheet += colourSheet("background-color", d.backColor == kTransparent ? kDefaultColor : d.backColor);
-    sheet += colourSheet("color", d.foreColor);
-    if (!sheet.isEmpty()) w->setStyleSheet(sheet);
-    if (!d.toolTip.empty()) w->setToolTip(qs(d.toolTip));
-    w->setVisible(d.visible);
-    return w;
-}
-
-void FormView::buildMenus() {
-    QHash<QString, QMenu*> menus;
-    for (const auto& c : form_.controls()) {
-        const ControlDesign& d = c->design();
-        if (d.kind != ControlKind::Menu) continue;
-        if (!menuBar_) menuBar_ = new QMenuBar(this);
-        Control* ctl = c.get();
-        if (d.container.empty()) {
-            // A top-level entry with no entries under it is clicked directly.
-            bool hasChildren = false;
-            for (const auto& o : form_.controls())
-                if (o->kind() == ControlKind::Menu && o->design().container == d.name) hasChildren = true;
-            if (hasChildren) {
-                menus[qs(d.name)] = menuBar_->addMenu(qs(d.caption));
-            } else {
-                QAction* a = menuBar_->addAction(qs(d.caption));
-                connect(a, &QAction::triggered, this, [this, ctl] { dispatch(ctl->name(), Event::Click); });
-            }
-            continue;
-        }
-        QMenu* parent = menus.value(qs(d.container));
-        if (!parent) continue;
-        if (d.separator) {
-            parent->addSeparator();
-            continue;
-        }
-        QAction* a = parent->addAction(qs(d.caption));
-        connect(a, &QAction::triggered, this, [this, ctl] { dispatch(ctl->name(), Event::Click); });
     }
 }
 
@@ -424,8 +263,6 @@ void FormView::refreshCanvas() {
     if (client_) client_->update();
 }
 
-} // namespace gp
-
-namespace gp {
 QWidget* FormView::clientArea() const { return client_; }
+
 } // namespace gp

@@ -24,6 +24,7 @@ class CanvasDevice;
 class FormSet;
 
 constexpr double kTwipsPerPixel = 15.0;
+inline int pixelsOf(int twips) { return static_cast<int>(twips / kTwipsPerPixel + 0.5); }
 
 class FormView : public QDialog, public ControlObserver {
     Q_OBJECT

@@ -1,0 +1,133 @@
+// The widgets of a form view, one for each row of the design table, and its
+// menu bar.
+#include <QAction>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "platform/form_view.h"
+#include "platform/qt_drawing.h"
+#include "platform/wrap_button.h"
+#include "shell/form_set.h"
+
+namespace gp {
+
+namespace {
+QString colourSheet(const char* property, long colour) {
+    if (colour == kDefaultColor) return {};
+    if (colour == kTransparent) return QString("%1: transparent;").arg(property);
+    const QColor c = colour == kSystem3DHighlight ? QColor(255, 255, 255) : toQColor(colour);
+    return QString("%1: %2;").arg(property, c.name());
+}
+} // namespace
+
+QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* parent) {
+    QWidget* w = nullptr;
+    QString sheet;
+    switch (d.kind) {
+    case ControlKind::TextBox: {
+        auto* e = new QLineEdit(qs(static_cast<TextBox&>(c).Text()), parent);
+        connect(e, &QLineEdit::textEdited, this, [this, &c](const QString& t) {
+            app_.guarded(form_, [&] { static_cast<TextBox&>(c).userEdit(t.toStdString()); });
+            refreshCanvas();
+        });
+        e->installEventFilter(this);
+        w = e;
+        break;
+    }
+    case ControlKind::Button: {
+        auto* b = new WrapButton(qs(d.caption), parent);
+        b->setAutoDefault(false);
+        connect(b, &QPushButton::clicked, this, [this, &c] {
+            EventArgs a;
+            a.index = c.index();
+            dispatch(c.name(), Event::Click, a);
+        });
+        w = b;
+        break;
+    }
+    case ControlKind::Label: {
+        auto* l = new QLabel(qs(d.caption), parent);
+        l->setWordWrap(true);
+        l->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        l->setTextFormat(Qt::PlainText);
+        l->installEventFilter(this);
+        if (d.backColor == kDefaultColor) sheet += "background: transparent;";
+        w = l;
+        break;
+    }
+    case ControlKind::CheckBox: {
+        auto* b = new QCheckBox(qs(d.caption), parent);
+        b->setChecked(d.value != 0);
+        connect(b, &QCheckBox::clicked, this, [this, &c](bool on) {
+            static_cast<CheckBox&>(c).setValue(on ? 1 : 0);
+            dispatch(c.name(), Event::Click);
+        });
+        w = b;
+        break;
+    }
+    case ControlKind::Option: {
+        auto* b = new QRadioButton(qs(d.caption), parent);
+        b->setChecked(d.value != 0);
+        connect(b, &QRadioButton::clicked, this, [this, &c] {
+            static_cast<OptionButton&>(c).select();
+            dispatch(c.name(), Event::Click);
+        });
+        w = b;
+        break;
+    }
+    case ControlKind::Frame: {
+        auto* g = new QGroupBox(qs(d.caption), parent);
+        w = g;
+        break;
+    }
+    default: return nullptr;
+    }
+    w->setGeometry(QRect(toPixels(d.left, d.top), QSize(pixelsOf(d.width), pixelsOf(d.height))));
+    if (d.font) w->setFont(toQFont(*d.font));
+    sheet += colourSheet("background-color", d.backColor == kTransparent ? kDefaultColor : d.backColor);
+    sheet += colourSheet("color", d.foreColor);
+    if (!sheet.isEmpty()) w->setStyleSheet(sheet);
+    if (!d.toolTip.empty()) w->setToolTip(qs(d.toolTip));
+    w->setVisible(d.visible);
+    return w;
+}
+
+void FormView::buildMenus() {
+    QHash<QString, QMenu*> menus;
+    for (const auto& c : form_.controls()) {
+        const ControlDesign& d = c->design();
+        if (d.kind != ControlKind::Menu) continue;
+        if (!menuBar_) menuBar_ = new QMenuBar(this);
+        Control* ctl = c.get();
+        if (d.container.empty()) {
+            // A top-level entry with no entries under it is clicked directly.
+            bool hasChildren = false;
+            for (const auto& o : form_.controls())
+                if (o->kind() == ControlKind::Menu && o->design().container == d.name) hasChildren = true;
+            if (hasChildren) {
+                menus[qs(d.name)] = menuBar_->addMenu(qs(d.caption));
+            } else {
+                QAction* a = menuBar_->addAction(qs(d.caption));
+                connect(a, &QAction::triggered, this, [this, ctl] { dispatch(ctl->name(), Event::Click); });
+            }
+            continue;
+        }
+        QMenu* parent = menus.value(qs(d.container));
+        if (!parent) continue;
+        if (d.separator) {
+            parent->addSeparator();
+            continue;
+        }
+        QAction* a = parent->addAction(qs(d.caption));
+        connect(a, &QAction::triggered, this, [this, ctl] { dispatch(ctl->name(), Event::Click); });
+    }
+}
+
+} // namespace gp
