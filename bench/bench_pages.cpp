@@ -73,7 +73,7 @@ void runCase(benchmark::State& state, const PageCase& c, bool pdf) {
     options.seed = 1;
     gp::BatchRunner runner(options, devNull());
     try {
-        runner.start(gp::registerAllForms);
+        runner.start(gp::gridpagesProgram());
         for (const std::string& line : c.setup) runner.execute(line);
     } catch (const gp::ScriptError& e) {
         state.SkipWithError(e.reason.c_str());

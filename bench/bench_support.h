@@ -14,7 +14,6 @@
 
 #include "all_forms.h"
 #include "platform/canvas_device.h"
-#include "platform/page_buffer.h"
 #include "platform/pdf_sheets.h"
 #include "shell/form_set.h"
 
@@ -28,9 +27,10 @@ public:
     void print(Single, Single, const std::string&, const FontSpec&) override {}
 };
 
-class BenchProgram : public Dialogs, public FormHost, public Clock {
+class BenchProgram : public Dialogs, public FormHost, public Clock, public OutputFailures {
 public:
-    BenchProgram() : sink_(dir_.path()), pages_(sink_, printer_) {
+    BenchProgram() : sink_(dir_.path()), pages_(printer_, *this) {
+        pages_.addSink(sink_);
         printer_.attach(&pages_);
         random_.seed(1);
         app_ = std::make_unique<FormSet>(*this, *this, printer_, random_, *this);
@@ -91,12 +91,13 @@ public:
     void runModal(Form&) override {}
     void endProgram() override {}
     Single Timer() const override { return 43200.0f; }
+    void outputFailed(const std::string& message) override { faults_.push_back(message); }
 
 private:
     QTemporaryDir dir_;
     PdfSheetSink sink_;
     DrawingSurface printer_{DrawingSurface::Kind::Printer, "Printer", 11520, 15120};
-    PageBufferDevice pages_;
+    PrinterPages pages_;
     RandomSource random_;
     std::vector<std::unique_ptr<CanvasDevice>> canvases_;
     std::deque<std::string> answers_;

@@ -18,3 +18,9 @@ void registerAllForms(FormSet& app) {
 }
 
 } // namespace gp
+
+namespace gp {
+
+Program gridpagesProgram() { return Program{registerAllForms, FrmGrids::Design().name}; }
+
+} // namespace gp

@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
         }
         int qargc = 1;
         QGuiApplication app(qargc, argv);
-        return gp::runBatch(options, gp::registerAllForms);
+        return gp::runBatch(options, gp::gridpagesProgram());
     }
     // Fractional screen scales (125 %, 150 %) are used as they are, so the
     // canvas images, drawn at the screen's own pixel ratio, stay crisp.
@@ -53,5 +53,5 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("gridpages");
     QApplication::setDesktopFileName("gridpages");
     QApplication::setQuitOnLastWindowClosed(false);
-    return gp::runWindowed(gp::registerAllForms);
+    return gp::runWindowed(gp::gridpagesProgram());
 }

@@ -131,7 +131,7 @@ int main(int argc, char** argv) {
     });
     robot.start();
     QTimer::singleShot(120000, [] { QApplication::exit(1); });
-    const int status = gp::runWindowed(gp::registerAllForms);
+    const int status = gp::runWindowed(gp::gridpagesProgram());
     if (next < steps.size()) std::fprintf(stderr, "shots: stopped at step %zu\n", next + 1);
     return status != 0 || failures != 0 || next < steps.size() ? 1 : 0;
 }

@@ -7,6 +7,8 @@
 #include <iostream>
 #include <sstream>
 
+#include "shell/utf8.h"
+
 namespace gp {
 
 namespace {
@@ -45,13 +47,11 @@ std::vector<std::string> words(const std::string& s) {
 }
 
 // Splits UTF-8 text into its characters, so that typing never leaves half a
-// character in a box.
+// character in a box; a byte that is no character is typed on its own.
 std::vector<std::string> characters(const std::string& s) {
     std::vector<std::string> out;
     for (size_t i = 0; i < s.size();) {
-        const unsigned char c = static_cast<unsigned char>(s[i]);
-        size_t n = c < 0x80 ? 1 : (c >> 5) == 0x6 ? 2 : (c >> 4) == 0xE ? 3 : (c >> 3) == 0x1E ? 4 : 1;
-        n = std::min(n, s.size() - i);
+        const size_t n = std::max<size_t>(1, utf8Length(s, i));
         out.push_back(s.substr(i, n));
         i += n;
     }
@@ -120,13 +120,14 @@ BatchRunner::BatchRunner(const BatchOptions& options, std::FILE* traceOut)
       trace_(traceOut),
       printer_(DrawingSurface::Kind::Printer, "Printer", static_cast<Single>(options.printerWidth),
                static_cast<Single>(options.printerHeight)),
-      printerTrace_(trace_, "Printer") {
+      printerTrace_(trace_, "Printer"),
+      pdfPages_(printer_, *this) {
     printer_.attach(&printerTrace_);
     printer_.setTextMeasurer(&measurer_);
     if (!options.pdfDir.empty()) {
         pdf_ = std::make_unique<PdfSheetSink>(QString::fromStdString(options.pdfDir));
-        pdfPages_ = std::make_unique<PageBufferDevice>(*pdf_, printer_);
-        printer_.attach(pdfPages_.get());
+        pdfPages_.addSink(*pdf_);
+        printer_.attach(&pdfPages_);
     }
     if (options.seeded) random_.seed(static_cast<std::uint32_t>(options.seed));
 }
@@ -137,11 +138,11 @@ BatchRunner::~BatchRunner() {
 }
 
 int BatchRunner::run(const std::vector<std::string>& lines, const std::string& fileName,
-                     void (*registerForms)(FormSet&), std::FILE* err) {
+                     const Program& program, std::FILE* err) {
     lines_ = &lines;
     next_ = 0;
     try {
-        start(registerForms);
+        start(program);
         runUntil(nullptr);
     } catch (const ScriptError& e) {
         trace_.flush();
@@ -149,15 +150,20 @@ int BatchRunner::run(const std::vector<std::string>& lines, const std::string& f
         return 2;
     }
     trace_.flush();
-    return 0;
+    return outputFailed_ ? 1 : 0;
 }
 
-void BatchRunner::start(void (*registerForms)(FormSet&)) {
+void BatchRunner::outputFailed(const std::string& message) {
+    outputFailed_ = true;
+    std::fprintf(stderr, "gridpages: %s\n", message.c_str());
+}
+
+void BatchRunner::start(const Program& program) {
     static const std::vector<std::string> none;
     if (!lines_) lines_ = &none;
     app_ = std::make_unique<FormSet>(*this, *this, printer_, random_, *this);
-    registerForms(*app_);
-    app_->start("frmGrids");
+    program.registerForms(*app_);
+    app_->start(program.startForm);
 }
 
 void BatchRunner::runUntil(Form* modal) {
@@ -325,12 +331,11 @@ void BatchRunner::tick(int count) {
     for (int i = 0; i < count && !ended_; ++i) {
         // The timer of the form on show, or of a hidden form that still runs.
         TimerControl* timer = nullptr;
-        if (!shown_.empty())
-            timer = dynamic_cast<TimerControl*>(shown_.back()->find("Timer1"));
+        if (!shown_.empty()) timer = shown_.back()->formTimer();
         if (!timer || !timer->Enabled()) {
             timer = nullptr;
             for (Form* f : app_->loadedForms()) {
-                auto* t = dynamic_cast<TimerControl*>(f->find("Timer1"));
+                TimerControl* t = f->formTimer();
                 if (t && t->Enabled()) { timer = t; break; }
             }
         }
@@ -403,7 +408,7 @@ void BatchRunner::controlChanged(Control& control, ControlProperty property) {
     if (property == ControlProperty::Visible) trace_.visible(control.displayName(), control.Visible());
 }
 
-int runBatch(const BatchOptions& options, void (*registerForms)(FormSet&)) {
+int runBatch(const BatchOptions& options, const Program& program) {
     std::vector<std::string> lines;
     std::string fileName = options.script == "-" ? "<stdin>" : options.script;
     {
@@ -435,7 +440,7 @@ int runBatch(const BatchOptions& options, void (*registerForms)(FormSet&)) {
     int status;
     {
         BatchRunner runner(options, traceOut);
-        status = runner.run(lines, fileName, registerForms, stderr);
+        status = runner.run(lines, fileName, program, stderr);
     }
     if (closeTrace) std::fclose(traceOut);
     return status;

@@ -9,11 +9,12 @@
 #include <string>
 #include <vector>
 
-#include "platform/page_buffer.h"
 #include "platform/pdf_sheets.h"
 #include "platform/qt_drawing.h"
-#include "platform/trace_writer.h"
+#include "shell/trace_writer.h"
 #include "shell/form_set.h"
+#include "shell/page.h"
+#include "shell/program.h"
 
 namespace gp {
 
@@ -38,7 +39,7 @@ struct ScriptError {
     std::string reason;
 };
 
-class BatchRunner : public Dialogs, public FormHost, public ControlObserver, public Clock {
+class BatchRunner : public Dialogs, public FormHost, public ControlObserver, public Clock, public OutputFailures {
 public:
     BatchRunner(const BatchOptions& options, std::FILE* traceOut);
     ~BatchRunner() override;
@@ -46,12 +47,12 @@ public:
     // Runs the whole script; returns the exit status (0, or 2 after writing
     // the reason for a bad line to `err`).
     int run(const std::vector<std::string>& lines, const std::string& fileName,
-            void (*registerForms)(FormSet&), std::FILE* err);
+            const Program& program, std::FILE* err);
 
     // Line by line, for programs that time single commands: start() puts
     // the menu on show, execute() runs one script line (throwing
     // ScriptError for a bad one).
-    void start(void (*registerForms)(FormSet&));
+    void start(const Program& program);
     void execute(const std::string& line);
     const TraceWriter& trace() const { return trace_; }
     QString lastSheet() const { return pdf_ ? pdf_->lastFile() : QString(); }
@@ -74,6 +75,9 @@ public:
     // ControlObserver
     void controlChanged(Control& control, ControlProperty property) override;
 
+    // OutputFailures
+    void outputFailed(const std::string& message) override;
+
     // Clock: a fixed noon, so that a run repeats.
     Single Timer() const override { return 43200.0f; }
 
@@ -87,9 +91,10 @@ private:
     TraceWriter trace_;
     QtTextMeasurer measurer_;
     std::unique_ptr<PdfSheetSink> pdf_;
-    std::unique_ptr<PageBufferDevice> pdfPages_;
     DrawingSurface printer_;
     RecordingDevice printerTrace_;
+    PrinterPages pdfPages_;
+    bool outputFailed_ = false;
     RandomSource random_;
     std::unique_ptr<FormSet> app_;
     std::vector<std::unique_ptr<RecordingDevice>> canvasTraces_;
@@ -102,6 +107,6 @@ private:
 };
 
 // The entry of batch mode: reads the script and runs it.
-int runBatch(const BatchOptions& options, void (*registerForms)(FormSet&));
+int runBatch(const BatchOptions& options, const Program& program);
 
 } // namespace gp

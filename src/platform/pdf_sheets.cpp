@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QPdfWriter>
 
+#include "platform/painter_device.h"
+
 namespace gp {
 
 namespace {
@@ -37,10 +39,11 @@ bool writeSheetPdf(const QString& path, const Page& page, Single printableWidth,
 
 PdfSheetSink::PdfSheetSink(QString directory) : dir_(std::move(directory)) { QDir().mkpath(dir_); }
 
-void PdfSheetSink::emitPage(const Page& page, Single printableWidth, Single printableHeight) {
+OutputResult PdfSheetSink::emitPage(const Page& page, Single printableWidth, Single printableHeight) {
     ++count_;
     last_ = QDir(dir_).filePath(QString("sheet-%1.pdf").arg(count_, 4, 10, QChar('0')));
     writeSheetPdf(last_, page, printableWidth, printableHeight);
+    return OutputResult::written();
 }
 
 } // namespace gp

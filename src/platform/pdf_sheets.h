@@ -5,7 +5,7 @@
 
 #include <QString>
 
-#include "platform/page_buffer.h"
+#include "shell/page.h"
 
 class QPagedPaintDevice;
 
@@ -20,7 +20,7 @@ void paintSheet(QPagedPaintDevice& device, const Page& page, Single printableWid
 class PdfSheetSink : public PageSink {
 public:
     explicit PdfSheetSink(QString directory);
-    void emitPage(const Page& page, Single printableWidth, Single printableHeight) override;
+    OutputResult emitPage(const Page& page, Single printableWidth, Single printableHeight) override;
     int sheets() const { return count_; }
     QString lastFile() const { return last_; }
 

@@ -107,15 +107,21 @@ void QtHost::endProgram() {
     QApplication::exit(0);
 }
 
+void WindowedOutputFailures::outputFailed(const std::string& message) {
+    QMessageBox::warning(activeParent(), "Not saved", qs("The sheet could not be written.\n\n" + message));
+}
+
 Single SystemClock::Timer() const {
     return static_cast<Single>(QTime::currentTime().msecsSinceStartOfDay() / 1000.0);
 }
 
-int runWindowed(void (*registerForms)(FormSet&)) {
+int runWindowed(const Program& program) {
     SystemPrinterSink sink;
     DrawingSurface printer(DrawingSurface::Kind::Printer, "Printer", sink.printableWidth(),
                            sink.printableHeight());
-    PageBufferDevice pages(sink, printer);
+    WindowedOutputFailures failures;
+    PrinterPages pages(printer, failures);
+    pages.addSink(sink);
     printer.attach(&pages);
     QtTextMeasurer measurer;
     printer.setTextMeasurer(&measurer);
@@ -127,8 +133,8 @@ int runWindowed(void (*registerForms)(FormSet&)) {
     random.Randomize(clock.Timer());
     FormSet app(dialogs, host, printer, random, clock);
     host.setApp(&app);
-    registerForms(app);
-    app.start("frmGrids");
+    program.registerForms(app);
+    app.start(program.startForm);
     if (app.ended()) return 0;
     return QApplication::exec();
 }

@@ -7,10 +7,10 @@
 #include <memory>
 
 #include "platform/form_view.h"
-#include "platform/page_buffer.h"
 #include "platform/qt_drawing.h"
 #include "platform/system_printer.h"
 #include "shell/form_set.h"
+#include "shell/program.h"
 
 namespace gp {
 
@@ -39,12 +39,18 @@ private:
     QtTextMeasurer measurer_;
 };
 
+// A sheet that could not be written: one message that says where and why.
+class WindowedOutputFailures : public OutputFailures {
+public:
+    void outputFailed(const std::string& message) override;
+};
+
 class SystemClock : public Clock {
 public:
     Single Timer() const override;
 };
 
 // Runs the program with its menu until the menu's Exit. Returns the exit code.
-int runWindowed(void (*registerForms)(FormSet&));
+int runWindowed(const Program& program);
 
 } // namespace gp

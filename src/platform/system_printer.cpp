@@ -42,10 +42,10 @@ QString SystemPrinterSink::fallbackFolder() {
     return QDir(base).filePath("gridpages sheets");
 }
 
-void SystemPrinterSink::emitPage(const Page& page, Single printableWidth, Single printableHeight) {
+OutputResult SystemPrinterSink::emitPage(const Page& page, Single printableWidth, Single printableHeight) {
     if (!hasPrinter_) {
         saveAsPdf(page, printableWidth, printableHeight);
-        return;
+        return OutputResult::written();
     }
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     QPrinter printer(info, QPrinter::HighResolution);
@@ -55,6 +55,7 @@ void SystemPrinterSink::emitPage(const Page& page, Single printableWidth, Single
     // Without full-page mode the painter's origin is the corner of the
     // printable area, which is where the pages put theirs.
     paintSheet(printer, page, printableWidth, printableHeight, 0.0);
+    return OutputResult::written();
 }
 
 void SystemPrinterSink::saveAsPdf(const Page& page, Single printableWidth, Single printableHeight) {

@@ -6,14 +6,14 @@
 
 #include <QString>
 
-#include "platform/page_buffer.h"
+#include "shell/page.h"
 
 namespace gp {
 
 class SystemPrinterSink : public PageSink {
 public:
     SystemPrinterSink();
-    void emitPage(const Page& page, Single printableWidth, Single printableHeight) override;
+    OutputResult emitPage(const Page& page, Single printableWidth, Single printableHeight) override;
 
     bool hasPrinter() const { return hasPrinter_; }
     // The portrait printable area of the default printer, in twips.

@@ -41,6 +41,12 @@ Control* Form::find(const std::string& name, int index) const {
     return nullptr;
 }
 
+TimerControl* Form::formTimer() const {
+    for (const auto& c : controls_)
+        if (auto* t = dynamic_cast<TimerControl*>(c.get())) return t;
+    return nullptr;
+}
+
 template <typename T>
 T& Form::typed(const std::string& name, int index) const {
     Control* c = find(name, index);

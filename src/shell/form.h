@@ -47,6 +47,8 @@ public:
     DrawingSurface& Printer();
 
     Control* find(const std::string& name, int index = -1) const;
+    // The form's timer, where it has one: what a script's tick fires.
+    TimerControl* formTimer() const;
     const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
     using Handler = std::function<void(const EventArgs&)>;

@@ -57,7 +57,7 @@ int runRobot(const std::vector<RobotStep>& steps, int seconds) {
         timedOut = true;
         QApplication::exit(1);
     });
-    const int status = runWindowed(registerAllForms);
+    const int status = runWindowed(gridpagesProgram());
     return timedOut ? 1 : status;
 }
 

@@ -1,8 +1,10 @@
-#include "platform/trace_writer.h"
+#include "shell/trace_writer.h"
 
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+
+#include "shell/utf8.h"
 
 namespace gp {
 
@@ -58,18 +60,6 @@ void TraceWriter::appendNumber(std::string& out, Single v) {
     }
 }
 
-namespace {
-// Length of the valid UTF-8 sequence at s[i], or 0 where the bytes are not
-// one (a text box can hold any bytes a script gives it).
-size_t utf8Length(const std::string& s, size_t i) {
-    const auto c = static_cast<unsigned char>(s[i]);
-    size_t n = c < 0x80 ? 1 : (c >> 5) == 0x6 ? 2 : (c >> 4) == 0xE ? 3 : (c >> 3) == 0x1E ? 4 : 0;
-    if (n == 0 || i + n > s.size()) return 0;
-    for (size_t k = 1; k < n; ++k)
-        if ((static_cast<unsigned char>(s[i + k]) >> 6) != 0x2) return 0;
-    return n;
-}
-} // namespace
 
 void TraceWriter::appendString(std::string& out, const std::string& s) {
     out += '"';

@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 
-#include "platform/trace_writer.h"
+#include "shell/trace_writer.h"
 
 using gp::TraceWriter;
 
