@@ -15,7 +15,10 @@
 #include <vector>
 
 #include "all_forms.h"
-#include "platform/batch_runner.h"
+#include "platform/pdf_sheets.h"
+#include "platform/qt_drawing.h"
+#include "shell/script/scripted_session.h"
+#include "shell/trace_writer.h"
 
 namespace {
 
@@ -67,27 +70,30 @@ std::FILE* devNull() {
 
 void runCase(benchmark::State& state, const PageCase& c, bool pdf) {
     QTemporaryDir dir;
-    gp::BatchOptions options;
-    if (pdf) options.pdfDir = dir.path().toStdString();
-    options.seeded = true;
-    options.seed = 1;
-    gp::BatchRunner runner(options, devNull());
+    gp::TraceWriter trace(devNull());
+    gp::QtTextMeasurer measurer;
+    gp::SessionSettings settings;
+    settings.seeded = true;
+    settings.seed = 1;
+    gp::ScriptedSession session(gp::gridpagesProgram(), trace, &measurer, settings);
+    gp::PdfSheetSink sheets(dir.path().toStdString());
+    if (pdf) session.addSheetSink(sheets);
     try {
-        runner.start(gp::gridpagesProgram());
-        for (const std::string& line : c.setup) runner.execute(line);
+        session.start();
+        for (const std::string& line : c.setup) session.execute(line);
     } catch (const gp::ScriptError& e) {
         state.SkipWithError(e.reason.c_str());
         return;
     }
     long strokes = 0;
     for (auto _ : state) {
-        for (const std::string& a : c.answers) runner.execute("answer " + a);
-        const long before = runner.trace().strokes();
-        runner.execute(c.action);
-        strokes = runner.trace().strokes() - before;
+        for (const std::string& a : c.answers) session.execute("answer " + a);
+        const long before = trace.strokes();
+        session.execute(c.action);
+        strokes = trace.strokes() - before;
     }
     state.counters["strokes"] = static_cast<double>(strokes);
-    if (pdf) state.counters["pdf_bytes"] = static_cast<double>(QFileInfo(runner.lastSheet()).size());
+    if (pdf) state.counters["pdf_bytes"] = static_cast<double>(QFileInfo(sheets.lastFile()).size());
 }
 
 // Collects the runs quietly; the table at the end is the output.

@@ -3,53 +3,55 @@
 
 #include <QApplication>
 #include <QGuiApplication>
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "all_forms.h"
-#include "platform/batch_runner.h"
+#include "batch_mode.h"
+#include "command_line.h"
 #include "platform/qt_session.h"
+#include "platform/runtime_folder.h"
 
 namespace {
-const char* kUsage =
-    "usage: gridpages [--script FILE [--trace OUT] [--pdf DIR] [--printer W H] [--seed N]]\n"
-    "  Without --script the menu opens in a window.\n";
-}
+// Qt takes the user's locale for everything; numbers typed into boxes and
+// written to files and traces are read and written with a decimal point
+// whatever the language, as the pages expect.
+void numbersWithAPoint() { std::setlocale(LC_NUMERIC, "C"); }
+} // namespace
 
 int main(int argc, char** argv) {
-    std::vector<std::string> args(argv + 1, argv + argc);
-    for (const std::string& a : args) {
-        if (a == "--help" || a == "-h") {
-            std::fputs(kUsage, stdout);
-            return 0;
-        }
-    }
-    gp::BatchOptions options;
-    bool batch = false;
+    const std::vector<std::string> args(argv + 1, argv + argc);
+    gp::CommandLine options;
     std::string error;
-    if (!gp::parseBatchOptions(args, options, batch, error)) {
-        std::fprintf(stderr, "gridpages: %s\n%s", error.c_str(), kUsage);
+    if (!gp::parseCommandLine(args, options, error)) {
+        std::fprintf(stderr, "gridpages: %s\n%s", error.c_str(), gp::kUsage);
         return 2;
     }
-    if (batch) {
+    using Mode = gp::CommandLine::Mode;
+    if (options.mode == Mode::Help) {
+        std::fputs(gp::kUsage, stdout);
+        return 0;
+    }
+    if (options.mode != Mode::Window) {
         // No screen is needed: fonts and PDF files work offscreen.
         if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        // Qt wants a private runtime folder; a batch run on a server may
-        // have none.
-        if (!std::getenv("XDG_RUNTIME_DIR")) {
-            char dir[] = "/tmp/gridpages-runtime-XXXXXX";
-            if (mkdtemp(dir)) setenv("XDG_RUNTIME_DIR", dir, 1);
-        }
+        gp::RuntimeFolder runtime;
         int qargc = 1;
         QGuiApplication app(qargc, argv);
-        return gp::runBatch(options, gp::gridpagesProgram());
+        numbersWithAPoint();
+        const gp::Program program = gp::gridpagesProgram();
+        if (options.mode == Mode::List) return gp::printFormList(program);
+        if (options.mode == Mode::Describe) return gp::printFormDescription(program, options.describe);
+        return gp::runBatch(options, program);
     }
     // Fractional screen scales (125 %, 150 %) are used as they are, so the
     // canvas images, drawn at the screen's own pixel ratio, stay crisp.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication app(argc, argv);
+    numbersWithAPoint();
     QApplication::setApplicationName("gridpages");
     QApplication::setDesktopFileName("gridpages");
     QApplication::setQuitOnLastWindowClosed(false);

@@ -1,6 +1,6 @@
 #include "platform/pdf_sheets.h"
 
-#include <QDir>
+#include <QBuffer>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
@@ -26,24 +26,25 @@ void paintSheet(QPagedPaintDevice& device, const Page& page, Single printableWid
     painter.end();
 }
 
-bool writeSheetPdf(const QString& path, const Page& page, Single printableWidth, Single printableHeight) {
-    QPdfWriter writer(path);
-    writer.setResolution(1440);
-    writer.setCreator("gridpages");
-    const QSizeF inches((printableWidth + 2 * kMargin) / 1440.0, (printableHeight + 2 * kMargin) / 1440.0);
-    writer.setPageLayout(QPageLayout(QPageSize(inches, QPageSize::Inch, QString(), QPageSize::ExactMatch),
-                                     QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
-    paintSheet(writer, page, printableWidth, printableHeight, kMargin);
-    return true;
+QByteArray sheetPdf(const Page& page, Single printableWidth, Single printableHeight) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(1440);
+        writer.setCreator("gridpages");
+        const QSizeF inches((printableWidth + 2 * kMargin) / 1440.0, (printableHeight + 2 * kMargin) / 1440.0);
+        writer.setPageLayout(QPageLayout(QPageSize(inches, QPageSize::Inch, QString(), QPageSize::ExactMatch),
+                                         QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
+        paintSheet(writer, page, printableWidth, printableHeight, kMargin);
+    }
+    return bytes;
 }
 
-PdfSheetSink::PdfSheetSink(QString directory) : dir_(std::move(directory)) { QDir().mkpath(dir_); }
-
 OutputResult PdfSheetSink::emitPage(const Page& page, Single printableWidth, Single printableHeight) {
-    ++count_;
-    last_ = QDir(dir_).filePath(QString("sheet-%1.pdf").arg(count_, 4, 10, QChar('0')));
-    writeSheetPdf(last_, page, printableWidth, printableHeight);
-    return OutputResult::written();
+    const QByteArray bytes = sheetPdf(page, printableWidth, printableHeight);
+    return folder_.write(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
 }
 
 } // namespace gp

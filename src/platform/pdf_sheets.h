@@ -1,11 +1,14 @@
 #pragma once
-// Sheets saved as PDF files at true size: a page of the printable area plus
-// a quarter inch of margin on every side, drawn in twips at 1440 dots to the
+// Sheets as PDF files at true size: a page of the printable area plus a
+// quarter inch of margin on every side, drawn in twips at 1440 dots to the
 // inch, so one inch on the sheet is 72 points in the file.
 
+#include <QByteArray>
 #include <QString>
+#include <string>
 
 #include "shell/page.h"
+#include "shell/sheet_folder.h"
 
 class QPagedPaintDevice;
 
@@ -16,20 +19,18 @@ namespace gp {
 void paintSheet(QPagedPaintDevice& device, const Page& page, Single printableWidth,
                 Single printableHeight, double margin);
 
-// Writes DIR/sheet-0001.pdf, sheet-0002.pdf, ... one file a sheet.
+// The bytes of a one-page PDF file of the sheet.
+QByteArray sheetPdf(const Page& page, Single printableWidth, Single printableHeight);
+
+// DIR/sheet-0001.pdf, sheet-0002.pdf, ... one file a sheet.
 class PdfSheetSink : public PageSink {
 public:
-    explicit PdfSheetSink(QString directory);
+    explicit PdfSheetSink(const std::string& directory) : folder_(directory, "pdf") {}
     OutputResult emitPage(const Page& page, Single printableWidth, Single printableHeight) override;
-    int sheets() const { return count_; }
-    QString lastFile() const { return last_; }
+    QString lastFile() const { return QString::fromStdString(folder_.lastFile()); }
 
 private:
-    QString dir_;
-    int count_ = 0;
-    QString last_;
+    SheetFolder folder_;
 };
-
-bool writeSheetPdf(const QString& path, const Page& page, Single printableWidth, Single printableHeight);
 
 } // namespace gp

@@ -1,6 +1,5 @@
 #include "platform/system_printer.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QMessageBox>
 #include <QPageLayout>
@@ -23,7 +22,7 @@ void setUp(QPrinter& printer, const QPrinterInfo& info, int orientation) {
 }
 } // namespace
 
-SystemPrinterSink::SystemPrinterSink() {
+SystemPrinterSink::SystemPrinterSink() : fallback_(fallbackFolder().toStdString(), "pdf") {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     hasPrinter_ = !info.isNull();
     if (!hasPrinter_) return;
@@ -43,10 +42,7 @@ QString SystemPrinterSink::fallbackFolder() {
 }
 
 OutputResult SystemPrinterSink::emitPage(const Page& page, Single printableWidth, Single printableHeight) {
-    if (!hasPrinter_) {
-        saveAsPdf(page, printableWidth, printableHeight);
-        return OutputResult::written();
-    }
+    if (!hasPrinter_) return saveAsPdf(page, printableWidth, printableHeight);
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     QPrinter printer(info, QPrinter::HighResolution);
     setUp(printer, info, page.orientation);
@@ -58,18 +54,18 @@ OutputResult SystemPrinterSink::emitPage(const Page& page, Single printableWidth
     return OutputResult::written();
 }
 
-void SystemPrinterSink::saveAsPdf(const Page& page, Single printableWidth, Single printableHeight) {
+OutputResult SystemPrinterSink::saveAsPdf(const Page& page, Single printableWidth, Single printableHeight) {
     const QString folder = fallbackFolder();
-    QDir().mkpath(folder);
-    const QString stamp = QDateTime::currentDateTime().toString("yyyyMMdd-hhmmss-zzz");
-    const QString path = QDir(folder).filePath("sheet-" + stamp + ".pdf");
-    writeSheetPdf(path, page, printableWidth, printableHeight);
+    const QByteArray bytes = sheetPdf(page, printableWidth, printableHeight);
+    const OutputResult saved = fallback_.write(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
+    if (!saved.ok()) return saved;
     if (!told_) {
         told_ = true;
         QMessageBox::information(nullptr, "No printer",
                                  "No printer is installed, so each sheet is saved as a PDF file "
                                  "in this folder:\n\n" + folder);
     }
+    return saved;
 }
 
 } // namespace gp

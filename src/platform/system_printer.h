@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "shell/page.h"
+#include "shell/sheet_folder.h"
 
 namespace gp {
 
@@ -22,7 +23,9 @@ public:
     static QString fallbackFolder();
 
 private:
-    void saveAsPdf(const Page& page, Single printableWidth, Single printableHeight);
+    OutputResult saveAsPdf(const Page& page, Single printableWidth, Single printableHeight);
+
+    SheetFolder fallback_;
 
     bool hasPrinter_ = false;
     bool told_ = false;

@@ -18,10 +18,15 @@ std::string folderOf(const std::string& path) {
     return slash == 0 ? "/" : path.substr(0, slash);
 }
 
-bool fail(std::string& error, int code) {
-    error = std::strerror(code);
-    return false;
-}
+struct Failure {
+    std::string& error;
+    int* code;
+    bool operator()(int errnoValue) const {
+        error = std::strerror(errnoValue);
+        if (code) *code = errnoValue;
+        return false;
+    }
+};
 
 bool writeAll(int fd, std::string_view bytes, int& code) {
     while (!bytes.empty()) {
@@ -38,18 +43,20 @@ bool writeAll(int fd, std::string_view bytes, int& code) {
 
 } // namespace
 
-bool writeFileSafely(const std::string& path, std::string_view bytes, bool replace, std::string& error) {
-    if (path.empty()) return fail(error, ENOENT);
+bool writeFileSafely(const std::string& path, std::string_view bytes, bool replace, std::string& error,
+                     int* errorCode) {
+    const Failure fail{error, errorCode};
+    if (path.empty()) return fail(ENOENT);
     struct stat st {};
     if (::lstat(path.c_str(), &st) == 0) {
-        if (!replace) return fail(error, EEXIST);
+        if (!replace) return fail(EEXIST);
         // Replacing is for a plain file only: a link is not followed and a
         // folder or device is never swapped for a file.
-        if (!S_ISREG(st.st_mode)) return fail(error, S_ISDIR(st.st_mode) ? EISDIR : EEXIST);
+        if (!S_ISREG(st.st_mode)) return fail(S_ISDIR(st.st_mode) ? EISDIR : EEXIST);
     }
     std::string temp = folderOf(path) + "/.gridpages-XXXXXX";
     const int fd = ::mkstemp(temp.data());
-    if (fd < 0) return fail(error, errno);
+    if (fd < 0) return fail(errno);
     int code = 0;
     bool ok = writeAll(fd, bytes, code);
     if (ok && ::fsync(fd) != 0) ok = false, code = errno;
@@ -75,7 +82,7 @@ bool writeFileSafely(const std::string& path, std::string_view bytes, bool repla
     }
     if (!ok) {
         ::unlink(temp.c_str());
-        return fail(error, code);
+        return fail(code);
     }
     // The new name itself reaches the disk with its folder.
     const int dir = ::open(folderOf(path).c_str(), O_RDONLY | O_DIRECTORY);

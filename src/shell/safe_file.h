@@ -12,7 +12,9 @@ namespace gp {
 // Writes `bytes` to `path`. With `replace` a file already at `path` is
 // replaced in one step; without it nothing already there (a file, a link, a
 // folder) is ever replaced or written through, and the call fails. On
-// failure `error` holds the system's own words ("No space left on device").
-bool writeFileSafely(const std::string& path, std::string_view bytes, bool replace, std::string& error);
+// failure `error` holds the system's own words ("No space left on device")
+// and `code`, where given, the errno value.
+bool writeFileSafely(const std::string& path, std::string_view bytes, bool replace, std::string& error,
+                     int* code = nullptr);
 
 } // namespace gp

@@ -7,35 +7,36 @@
 #include <string>
 
 #include "shell/drawing_surface.h"
+#include "shell/session_log.h"
 
 namespace gp {
 
-class TraceWriter {
+class TraceWriter : public SessionLog {
 public:
     // Writes to `out` (not owned); nullptr writes nothing.
     explicit TraceWriter(std::FILE* out);
-    ~TraceWriter();
+    ~TraceWriter() override;
 
     bool enabled() const { return out_ != nullptr; }
     // Drawing calls written so far (lines, dots, texts).
     long strokes() const { return strokes_; }
 
-    void line(const std::string& surface, const Stroke& s);
-    void pset(const std::string& surface, Single x, Single y, int width, long color);
+    void line(const std::string& surface, const Stroke& s) override;
+    void pset(const std::string& surface, Single x, Single y, int width, long color) override;
     void print(const std::string& surface, Single x, Single y, const std::string& text,
-               const FontSpec& font);
-    void cls(const std::string& surface);
-    void enddoc(const std::string& surface);
-    void orientation(const std::string& surface, int value);
-    void msgbox(const std::string& title, const std::string& prompt, int buttons, int answer);
+               const FontSpec& font) override;
+    void cls(const std::string& surface) override;
+    void enddoc(const std::string& surface) override;
+    void orientation(const std::string& surface, int value) override;
+    void msgbox(const std::string& title, const std::string& prompt, int buttons, int answer) override;
     void inputbox(const std::string& title, const std::string& prompt,
-                  const std::string& defaultText, const std::string& answer);
-    void valueText(const std::string& control, const std::string& value);
-    void valueNumber(const std::string& control, long value);
-    void valueBool(const std::string& control, bool value);
-    void valueTimer(const std::string& control, bool enabled, int interval);
-    void visible(const std::string& control, bool value);
-    void error(const std::string& message);
+                  const std::string& defaultText, const std::string& answer) override;
+    void valueText(const std::string& control, const std::string& value) override;
+    void valueNumber(const std::string& control, long value) override;
+    void valueBool(const std::string& control, bool value) override;
+    void valueTimer(const std::string& control, bool enabled, int interval) override;
+    void visible(const std::string& control, bool value) override;
+    void error(const std::string& message) override;
     void flush();
 
     // The shortest decimal that reads back to the same Single.
@@ -54,25 +55,6 @@ private:
     std::FILE* out_;
     std::string buf_;
     long strokes_ = 0;
-};
-
-// A device that writes every call made to one surface into the trace.
-class RecordingDevice : public SurfaceDevice {
-public:
-    RecordingDevice(TraceWriter& trace, std::string surfaceName)
-        : trace_(trace), name_(std::move(surfaceName)) {}
-    void line(const Stroke& s) override { trace_.line(name_, s); }
-    void pset(Single x, Single y, int width, long color) override { trace_.pset(name_, x, y, width, color); }
-    void print(Single x, Single y, const std::string& text, const FontSpec& font) override {
-        trace_.print(name_, x, y, text, font);
-    }
-    void cls() override { trace_.cls(name_); }
-    void endDoc() override { trace_.enddoc(name_); }
-    void orientation(int value) override { trace_.orientation(name_, value); }
-
-private:
-    TraceWriter& trace_;
-    std::string name_;
 };
 
 } // namespace gp

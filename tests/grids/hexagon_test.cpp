@@ -4,15 +4,15 @@
 #include "grids/page.h"
 
 using namespace gp;
-using gp::test::Page;
+using gp::test::GridPage;
 
 namespace {
-Page hex(const std::string& button, const std::string& leng = "1", const std::string& scale = "0.5",
+GridPage hex(const std::string& button, const std::string& leng = "1", const std::string& scale = "0.5",
          Single w = 11520) {
-    return Page("frmHexagon", {{"txtLeng", leng}, {"txtScale", scale}}, button, w);
+    return GridPage("frmHexagon", {{"txtLeng", leng}, {"txtScale", scale}}, button, w);
 }
 // The side of each hexagon: the length of its first stroke.
-std::vector<float> sides(const Page& h) {
+std::vector<float> sides(const GridPage& h) {
     std::vector<float> out;
     auto l = h.lines();
     for (size_t i = 0; i < l.size(); i += 6) out.push_back(l[i].x2 - l[i].x1);
@@ -56,7 +56,7 @@ TEST(HexagonSeries, SidesLimitsAndTheTextsWrittenBack) {
         {"cmdTarget", "5", "0.5", 11000, {5500}, false, " 3.81", "0.5"},
         {"cmdTarget", "1", "1", 11520, {1440}, false, "1", "0.99"}};
     for (const Case& c : cases) {
-        Page h = hex(c.button, c.leng, c.scale, c.w);
+        GridPage h = hex(c.button, c.leng, c.scale, c.w);
         SCOPED_TRACE(std::string(c.button) + " " + c.leng + " " + c.scale);
         auto got = sides(h);
         if (!c.all && got.size() > c.sides.size()) got.resize(c.sides.size());
@@ -90,7 +90,7 @@ TEST(HexagonSeries, ValuesThatWouldNeverEndAreRefusedAtOnceOrDrawNothing) {
                           {"cmdTarget", "1", "", "\"\" is not a number"}, {"cmdTarget", "1", "0.5x", factor},
                           {"cmdPrintIt", "4", "0.5", nullptr, 8000},
                           {"cmdHexInscribed", "-2", "1", nullptr}}) {
-        Page h = hex(c.button, c.leng, c.scale, c.w);
+        GridPage h = hex(c.button, c.leng, c.scale, c.w);
         SCOPED_TRACE(std::string(c.button) + " " + c.leng + " " + c.scale);
         EXPECT_EQ(h.t.count("Printer", "line"), 0);
         EXPECT_EQ(h.t.count("Printer", "enddoc"), c.message ? 0 : 1);

@@ -12,10 +12,10 @@
 namespace gp::test {
 using Boxes = std::initializer_list<std::pair<const char*, std::string>>;
 
-struct Page {
+struct GridPage {
     TestApp t;
     Form* f;
-    Page(const std::string& form, Boxes boxes, const std::string& button, Single w = 11520, Single h = 15120)
+    GridPage(const std::string& form, Boxes boxes, const std::string& button, Single w = 11520, Single h = 15120)
         : t(w, h), f(&t.show(form)) { click(boxes, button); }
     void click(Boxes boxes, const std::string& button) {
         for (const auto& [box, text] : boxes) {

@@ -4,16 +4,16 @@
 
 using namespace gp;
 using gp::test::Op;
-using gp::test::Page;
+using gp::test::GridPage;
 
 namespace {
-Page graph(const std::string& a = "1", const std::string& thick = "3", Single w = 11520) {
-    return Page("frmParabola", {{"txtWid", a}, {"txtThick", thick}}, "cmdGraph", w);
+GridPage graph(const std::string& a = "1", const std::string& thick = "3", Single w = 11520) {
+    return GridPage("frmParabola", {{"txtWid", a}, {"txtThick", thick}}, "cmdGraph", w);
 }
 }
 
 TEST(ParabolaSheet, AxesTicksAndDotsInPairsUpToTheTop) {
-    Page p = graph();
+    GridPage p = graph();
     auto l = p.lines();
     ASSERT_EQ(l.size(), 2u + 8 + 12);
     EXPECT_EQ(l[0].x1, 5760); EXPECT_EQ(l[0].y1, 15119); EXPECT_EQ(l[0].y2, 0);
@@ -34,7 +34,7 @@ TEST(ParabolaSheet, ThicknessWrittenBackAndEquationAsTyped) {
     for (auto [a, thick, box, equation] :
          {std::tuple{" 2.50 ", "3", 3, "y =  2.50 x^2"}, {"1", "1", 2, "y = 1x^2"}, {"1", "0", 2, "y = 1x^2"},
           {"1", "abc", 2, "y = 1x^2"}, {"1", "10", 10, "y = 1x^2"}, {"abc", "3", 3, "y = abcx^2"}}) {
-        Page p = graph(a, thick);
+        GridPage p = graph(a, thick);
         SCOPED_TRACE(std::string(a) + "/" + thick);
         EXPECT_EQ(p.text("txtThick"), std::to_string(box));
         EXPECT_EQ(p.lines().at(0).width, 1);
@@ -50,7 +50,7 @@ TEST(ParabolaSheet, ThicknessWrittenBackAndEquationAsTyped) {
 TEST(ParabolaSheet, DotsBeyondAnIntegerOrThePageAreLeftOutAndNumbersNoSingleHoldsAreRefused) {
     for (auto [a, thick, refused, message] : {std::tuple{"100", "3", false, ""}, {"-100", "3", false, ""},
              {"1e30", "3", false, ""}, {"1e39", "3", true, "factor a"}, {"1", "1e10", true, ""}}) {
-        Page p = graph(a, thick);
+        GridPage p = graph(a, thick);
         SCOPED_TRACE(a);
         EXPECT_EQ(p.t.faults().size(), refused ? 1u : 0u);
         EXPECT_EQ(p.t.count("Printer", "enddoc"), refused ? 0 : 1);

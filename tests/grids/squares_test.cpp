@@ -4,12 +4,12 @@
 #include "grids/page.h"
 
 using namespace gp;
-using gp::test::Page;
+using gp::test::GridPage;
 
 namespace {
-Page grid(const char* form, const std::string& cw, const std::string& ch, const char* chart = "0",
+GridPage grid(const char* form, const std::string& cw, const std::string& ch, const char* chart = "0",
           Single w = 11520, Single h = 15120) {
-    return Page(form, {{"txtWidth", cw}, {"txtHigh", ch}, {"chkMult", chart}}, "cmdPrintIt", w, h);
+    return GridPage(form, {{"txtWidth", cw}, {"txtHigh", ch}, {"chkMult", chart}}, "cmdPrintIt", w, h);
 }
 long verticals(const std::vector<Stroke>& l) {
     return std::count_if(l.begin(), l.end(), [](const Stroke& s) { return s.x1 == s.x2 && s.y1 != s.y2; });
@@ -28,7 +28,7 @@ TEST(SquaresSheet, GridEdgesAndLoopEnds) {
         {"frmSquares2", ".5", ".5", 11001, 15121, 16, 100, 0, 10900, 15120, 10901, 15121},  // 201, 1 over
         {"frmSquares2", "9", ".5", 11520, 15120, 1, 5760, 0, 5760, 15120, 5761, 15121}};
     for (const Case& c : cases) {
-        Page s = grid(c.form, c.cw, c.ch, "0", c.w, c.h);
+        GridPage s = grid(c.form, c.cw, c.ch, "0", c.w, c.h);
         auto l = s.lines();
         SCOPED_TRACE(std::string(c.form) + " " + c.cw + " " + std::to_string(c.w));
         EXPECT_EQ(verticals(l), c.v);
@@ -41,7 +41,7 @@ TEST(SquaresSheet, GridEdgesAndLoopEnds) {
 }
 
 TEST(MultiplicationChart, LandscapeSheetWithCentredNumbersTurnedBackAfterEndDoc) {
-    Page s = grid("frmSquares", ".5", ".5", "1");
+    GridPage s = grid("frmSquares", ".5", ".5", "1");
     auto l = s.lines();
     auto& ops = s.t.ops();
     EXPECT_EQ(ops.front().op + ops[ops.size() - 2].op + ops.back().op, "orientationenddocorientation");
@@ -63,7 +63,7 @@ TEST(SquaresSheet, CellsTheLoopsCannotStepOverOrProductsBeyondAnIntegerAreRefuse
     // A refused cell does not even turn the sheet; a refused chart turns it back.
     for (const std::string cell : {"0", "-1", "abc", "", ".0005", "30", ".02"}) {
         const bool chart = cell == ".02";
-        Page s = grid("frmSquares", chart ? cell : ".5", cell, "1");
+        GridPage s = grid("frmSquares", chart ? cell : ".5", cell, "1");
         SCOPED_TRACE(cell);
         EXPECT_EQ(s.t.ops().size(), chart ? 2u : 0u);
         EXPECT_EQ(s.t.count("Printer", "orientation"), chart ? 2 : 0);
@@ -80,7 +80,7 @@ TEST(PuzzleSheet, CopiesStandInColumnsAndEachClosesOnItsCorner) {
     const float corners[6][2] = {{800, 800}, {800, 5264}, {800, 9728},
                                  {5984, 800}, {5984, 5264}, {5984, 9728}};
     for (const char* form : {"frmSquares", "frmSquares2"}) {
-        auto l = Page(form, {{"txtHigh", "abc"}}, "cmdStart").lines();  // the boxes play no part
+        auto l = GridPage(form, {{"txtHigh", "abc"}}, "cmdStart").lines();  // the boxes play no part
         ASSERT_EQ(l.size(), 6u * 14) << form;
         for (int c = 0; c < 6; ++c) {
             EXPECT_EQ(l[c * 14].x1, corners[c][0]); EXPECT_EQ(l[c * 14].y1, corners[c][1]);
@@ -91,7 +91,7 @@ TEST(PuzzleSheet, CopiesStandInColumnsAndEachClosesOnItsCorner) {
     }
     // Too small an area prints an empty sheet; 2240 square holds one copy.
     for (auto [w, h, n] : {std::tuple{2239.f, 15120.f, 0}, {2240.f, 2240.f, 14}}) {
-        Page s("frmSquares", {}, "cmdStart", w, h);
+        GridPage s("frmSquares", {}, "cmdStart", w, h);
         EXPECT_EQ(s.t.count("Printer", "line"), n);
         EXPECT_EQ(s.t.count("Printer", "enddoc"), 1);
     }

@@ -3,16 +3,16 @@
 #include "grids/page.h"
 
 using namespace gp;
-using gp::test::Page;
+using gp::test::GridPage;
 
 namespace {
-Page sheet(const std::string& leng, const std::string& angle, const std::string& thick = "2",
+GridPage sheet(const std::string& leng, const std::string& angle, const std::string& thick = "2",
            Single w = 11520, Single h = 15120) {
-    return Page("frmTriangle", {{"txtLeng", leng}, {"txtAngle", angle}, {"txtThick", thick}}, "cmdPrintIt",
+    return GridPage("frmTriangle", {{"txtLeng", leng}, {"txtAngle", angle}, {"txtThick", thick}}, "cmdPrintIt",
                 w, h);
 }
 // Where the flat strokes at height y end furthest right.
-float rightAt(const Page& s, float y) {
+float rightAt(const GridPage& s, float y) {
     float r = -1;
     for (const Stroke& st : s.lines()) if (st.y1 == y && st.y2 == y) r = std::max(r, st.x2);
     return r;
@@ -24,7 +24,7 @@ TEST(TriangleSheet, TheExampleCellsTextsCutAsTheConversionsSayAndTheOddBase) {
     // is Line -Step(base, 0), stroke 5 goes up to the next apex.
     const float ends[5][2] = {{2160, 0}, {1440, 1247}, {0, 1247}, {1440, 1247}, {2160, 0}};
     for (auto [leng, angle, thick] : {std::tuple{"1", "60", "2"}, {"1.0003", "60.9", "0"}}) {
-        Page s = sheet(leng, angle, thick);
+        GridPage s = sheet(leng, angle, thick);
         auto l = s.lines();
         ASSERT_GE(l.size(), 5u) << leng;
         EXPECT_EQ(l[0].x1, 720);
@@ -58,7 +58,7 @@ TEST(TriangleSheet, LoopEndsFollowThePrintableArea) {
                           Case{"1", "60", 32767, 15120, 1247, 32400, 31680 + 1440, 12 * 1247},
                           Case{"8", "70", 11520, 15120, 15825, -1, -1, 0},
                           Case{"20", "5", 11520, 15120, 1259, -1, 28800, 12 * 1259}}) {
-        Page s = sheet(c.leng, c.angle, "2", c.w, c.h);
+        GridPage s = sheet(c.leng, c.angle, "2", c.w, c.h);
         SCOPED_TRACE(std::string(c.leng) + " " + std::to_string(c.w));
         EXPECT_TRUE(s.t.faults().empty());
         EXPECT_EQ(s.t.count("Printer", "enddoc"), 1);
@@ -76,7 +76,7 @@ TEST(TriangleSheet, ImpossibleValuesComeBackAtOnceWithAMessageAndNoSheet) {
     for (auto [leng, angle] : {std::pair{"0", "60"}, {"-1", "60"}, {"1", "90"}, {"1", "95"},
                                {"1", "0"}, {"abc", "60"}, {"0.0001", "60"}, {"1", "180"},
                                {"0.001", "89"}}) {
-        Page s = sheet(leng, angle);
+        GridPage s = sheet(leng, angle);
         SCOPED_TRACE(std::string(leng) + " " + angle);
         EXPECT_EQ(s.t.faults().size(), 1u);
         EXPECT_EQ(s.t.ops().size(), 0u);  // no strokes, no page

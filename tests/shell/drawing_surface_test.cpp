@@ -7,12 +7,13 @@
 
 using namespace gp;
 using gp::test::Op;
-using gp::test::Recorder;
+using gp::test::TestLog;
 
 namespace {
 struct Fixture {
-    std::vector<Op> ops;
-    Recorder rec{"S", ops};
+    TestLog log;
+    std::vector<Op>& ops = log.ops;
+    SurfaceLog rec{log, "S"};
     DrawingSurface s{DrawingSurface::Kind::Printer, "S", 11520, 15120};
     Fixture() { s.attach(&rec); }
     Stroke last() const { return ops.back().stroke; }

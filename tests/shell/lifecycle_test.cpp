@@ -71,7 +71,8 @@ TEST(Lifecycle, AFormThatIsNotThereIsReportedNotOpened) {
     TestApp t;
     t.app().Show1("frmNoSuchPage");
     ASSERT_EQ(t.dialogs().size(), 1u);
-    EXPECT_EQ(t.dialogs()[0].kind, "missing");
+    EXPECT_EQ(t.dialogs()[0].kind, "msgbox");
+    EXPECT_EQ(t.dialogs()[0].prompt, "This page (frmNoSuchPage) is not part of this version yet.");
 }
 
 TEST(Guard, AFaultEndsTheHandlerWithAMessageAndTheFormStaysUsable) {

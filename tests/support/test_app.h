@@ -1,14 +1,14 @@
 #pragma once
-// A whole program for logic tests, with no Qt: forms run their handlers
-// against in-memory recorders, dialogs answer from a queue, and a modal Show
-// returns at once so the test drives the shown form itself.
+// A whole program for logic tests, with no Qt: the scripted session with a
+// log that keeps every drawing call and dialog to look at. A modal Show
+// returns at once (no script lines wait), so a test drives the shown form
+// itself.
 
-#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "shell/form_set.h"
+#include "shell/script/scripted_session.h"
 
 namespace gp::test {
 
@@ -21,45 +21,51 @@ struct Op {
     int value = 0;
 };
 
-// Keeps every call made to one surface.
-class Recorder : public SurfaceDevice {
-public:
-    Recorder(std::string name, std::vector<Op>& ops) : name_(std::move(name)), ops_(ops) {}
-    void line(const Stroke& s) override { ops_.push_back({name_, "line", s, "", {}, 0}); }
-    void pset(Single x, Single y, int width, long color) override {
-        ops_.push_back({name_, "pset", Stroke{x, y, x, y, 0, width, color}, "", {}, 0});
-    }
-    void print(Single x, Single y, const std::string& text, const FontSpec& font) override {
-        ops_.push_back({name_, "print", Stroke{x, y, x, y, 0, 0, -1}, text, font, 0});
-    }
-    void cls() override { ops_.push_back({name_, "cls", {}, "", {}, 0}); }
-    void endDoc() override { ops_.push_back({name_, "enddoc", {}, "", {}, 0}); }
-    void orientation(int v) override { ops_.push_back({name_, "orientation", {}, "", {}, v}); }
-
-private:
-    std::string name_;
-    std::vector<Op>& ops_;
-};
-
 struct DialogRecord {
-    std::string kind;  // msgbox, inputbox, fault, missing
+    std::string kind;  // msgbox, inputbox, fault
     std::string title, prompt, defaultText;
     int buttons = 0;
 };
 
-class TestApp : public Dialogs, public FormHost, public Clock {
+// Keeps what the session tells: drawing calls in order, dialogs, faults.
+class TestLog : public SessionLog {
+public:
+    std::vector<Op> ops;
+    std::vector<DialogRecord> dialogs;
+
+    void line(const std::string& s, const Stroke& st) override { ops.push_back({s, "line", st, "", {}, 0}); }
+    void pset(const std::string& s, Single x, Single y, int width, long color) override {
+        ops.push_back({s, "pset", Stroke{x, y, x, y, 0, width, color}, "", {}, 0});
+    }
+    void print(const std::string& s, Single x, Single y, const std::string& text, const FontSpec& font) override {
+        ops.push_back({s, "print", Stroke{x, y, x, y, 0, 0, -1}, text, font, 0});
+    }
+    void cls(const std::string& s) override { ops.push_back({s, "cls", {}, "", {}, 0}); }
+    void enddoc(const std::string& s) override { ops.push_back({s, "enddoc", {}, "", {}, 0}); }
+    void orientation(const std::string& s, int v) override { ops.push_back({s, "orientation", {}, "", {}, v}); }
+    void msgbox(const std::string& title, const std::string& prompt, int buttons, int) override {
+        dialogs.push_back({"msgbox", title, prompt, "", buttons});
+    }
+    void inputbox(const std::string& title, const std::string& prompt, const std::string& defaultText,
+                  const std::string&) override {
+        dialogs.push_back({"inputbox", title, prompt, defaultText, 0});
+    }
+    void error(const std::string& message) override { dialogs.push_back({"fault", "", message, "", 0}); }
+};
+
+class TestApp {
 public:
     // Printer of the default printable area, 11520 by 15120 twips.
     TestApp(Single printerWidth = 11520, Single printerHeight = 15120);
-    ~TestApp() override;
 
-    FormSet& app() { return *app_; }
-    DrawingSurface& printer() { return printer_; }
-    std::vector<Op>& ops() { return ops_; }
-    std::vector<DialogRecord>& dialogs() { return dialogs_; }
+    FormSet& app() { return session_->forms(); }
+    ScriptedSession& session() { return *session_; }
+    DrawingSurface& printer() { return session_->printer(); }
+    std::vector<Op>& ops() { return log_.ops; }
+    std::vector<DialogRecord>& dialogs() { return log_.dialogs; }
 
     // Queue answers: numbers for message boxes, text for input boxes.
-    void answer(const std::string& a) { answers_.push_back(a); }
+    void answer(const std::string& a) { session_->queueAnswer(a, 0); }
 
     // Loads and shows a form as the menu would (Form_Activate runs).
     Form& show(const std::string& name);
@@ -74,36 +80,12 @@ public:
     std::vector<Stroke> lines(const std::string& surface) const;
     int count(const std::string& surface, const std::string& op) const;
     std::vector<std::string> faults() const;
-    void clear() { ops_.clear(); dialogs_.clear(); }
-
-    // Dialogs
-    int MsgBox(const std::string& prompt, int buttons, const std::string& title) override;
-    std::string InputBox(const std::string& prompt, const std::string& title, const std::string& defaultText,
-                         std::optional<int> x, std::optional<int> y) override;
-    void showFault(const std::string& message) override;
-    void formMissing(const std::string& formName) override;
-    // FormHost
-    void formLoaded(Form& form) override;
-    void formShown(Form&, bool) override {}
-    void formHidden(Form&) override {}
-    void formUnloading(Form&) override {}
-    void runModal(Form&) override {}
-    void endProgram() override { ended_ = true; }
-    // Clock
-    Single Timer() const override { return 43200.0f; }
-
-    bool ended() const { return ended_; }
+    void clear() { log_.ops.clear(); log_.dialogs.clear(); }
+    bool ended() const { return session_->ended(); }
 
 private:
-    std::vector<Op> ops_;
-    std::vector<DialogRecord> dialogs_;
-    std::deque<std::string> answers_;
-    DrawingSurface printer_;
-    Recorder printerRecorder_;
-    std::vector<std::unique_ptr<Recorder>> canvasRecorders_;
-    RandomSource random_;
-    std::unique_ptr<FormSet> app_;
-    bool ended_ = false;
+    TestLog log_;
+    std::unique_ptr<ScriptedSession> session_;
 };
 
 } // namespace gp::test

@@ -1,0 +1,131 @@
+#include "batch_mode.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
+#include "platform/pdf_sheets.h"
+#include "platform/qt_drawing.h"
+#include "shell/script/form_catalog.h"
+#include "shell/script/script_file.h"
+#include "shell/script/scripted_session.h"
+#include "shell/trace_writer.h"
+
+namespace gp {
+
+namespace {
+
+// The trace's file: standard output, a file, or none.
+class TraceFile {
+public:
+    // Returns false with the reason where the file cannot be made.
+    bool open(const std::string& path, std::string& error) {
+        path_ = path;
+        if (path.empty()) return true;
+        if (path == "-") {
+            file_ = stdout;
+            return true;
+        }
+        file_ = std::fopen(path.c_str(), "wb");
+        if (!file_) error = path + ": " + std::strerror(errno);
+        return file_ != nullptr;
+    }
+    std::FILE* file() const { return file_; }
+    // Flushes and closes it; the reason where anything written was lost.
+    std::string close() {
+        if (!file_) return "";
+        errno = 0;
+        bool ok = std::fflush(file_) == 0 && !std::ferror(file_);
+        int code = errno;
+        if (file_ != stdout) {
+            if (std::fclose(file_) != 0 && ok) ok = false, code = errno;
+        }
+        file_ = nullptr;
+        if (ok) return "";
+        const std::string name = path_ == "-" ? "standard output" : path_;
+        return name + ": " + std::strerror(code ? code : EIO);
+    }
+
+private:
+    std::string path_;
+    std::FILE* file_ = nullptr;
+};
+
+void warn(const std::string& file, const std::string& message) {
+    std::fprintf(stderr, "%s: warning: %s\n", file.c_str(), message.c_str());
+}
+
+} // namespace
+
+int runBatch(const CommandLine& options, const Program& program) {
+    const std::string scriptName = options.script == "-" ? "<stdin>" : options.script;
+    std::vector<std::string> lines;
+    std::string error;
+    if (!readScript(options.script, lines, error)) {
+        std::fprintf(stderr, "%s: cannot read the script: %s\n", scriptName.c_str(), error.c_str());
+        return 2;
+    }
+    TraceFile traceFile;
+    if (!traceFile.open(options.trace, error)) {
+        std::fprintf(stderr, "gridpages: cannot write the trace: %s\n", error.c_str());
+        return 1;
+    }
+
+    SessionSettings settings;
+    settings.printerWidth = static_cast<Single>(options.printerWidth);
+    settings.printerHeight = static_cast<Single>(options.printerHeight);
+    settings.seeded = options.seeded;
+    settings.seed = static_cast<std::uint32_t>(options.seed);
+
+    int status = 0;
+    std::vector<std::string> failures;
+    std::vector<std::string> warnings;
+    {
+        TraceWriter trace(traceFile.file());
+        QtTextMeasurer measurer;
+        ScriptedSession session(program, trace, &measurer, settings);
+        std::unique_ptr<PdfSheetSink> pdf;
+        if (!options.pdfDir.empty()) {
+            pdf = std::make_unique<PdfSheetSink>(options.pdfDir);
+            session.addSheetSink(*pdf);
+        }
+        try {
+            session.start();
+            session.run(lines);
+        } catch (const ScriptError& e) {
+            trace.flush();
+            std::fprintf(stderr, "%s:%d: %s\n", scriptName.c_str(), e.line, e.reason.c_str());
+            status = 2;
+        }
+        failures = session.outputFailures();
+        if (status == 0) warnings = session.answerWarnings();
+    }
+    const std::string traceError = traceFile.close();
+    if (!traceError.empty()) failures.push_back(traceError);
+    for (const std::string& w : warnings) warn(scriptName, w);
+    for (const std::string& f : failures) std::fprintf(stderr, "gridpages: not written: %s\n", f.c_str());
+    if (status == 0 && !failures.empty()) status = 1;
+    return status;
+}
+
+int printFormList(const Program& program) {
+    for (const FormEntry& e : gp::listForms(program)) {
+        const std::string caption = "\"" + e.caption + "\"";
+        std::printf("%-16s %-36s %s\n", e.name.c_str(), caption.c_str(),
+                    e.openedBy.empty() ? "(the start-up form)" : e.openedBy.c_str());
+    }
+    return 0;
+}
+
+int printFormDescription(const Program& program, const std::string& form) {
+    const auto text = gp::describeForm(program, form);
+    if (!text) {
+        std::fprintf(stderr, "gridpages: there is no form %s (gridpages --list names them)\n", form.c_str());
+        return 2;
+    }
+    std::fputs(text->c_str(), stdout);
+    return 0;
+}
+
+} // namespace gp
