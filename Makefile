@@ -9,7 +9,7 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
 PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev \
             libgmock-dev libbenchmark-dev poppler-utils fonts-liberation fonts-liberation2 \
-            fonts-dejavu-core cups printer-driver-cups-pdf
+            fonts-dejavu-core cups printer-driver-cups-pdf librsvg2-bin
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
@@ -83,8 +83,8 @@ pictures: build
 
 PREFIX ?= /usr/local
 
-# The program, its desktop entry, icon and man page, so that it shows in
-# the desktop's menu.
+# The program, its desktop entry, icons, man page and metainfo, so that it
+# shows in the desktop's menu.
 install: build
 	$(SUDO) cmake --install $(BUILD_DIR) --prefix $(PREFIX)
 	@if command -v update-desktop-database >/dev/null; then \
