@@ -9,11 +9,12 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
 PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev \
             libgmock-dev libbenchmark-dev poppler-utils fonts-liberation fonts-liberation2 \
-            fonts-dejavu-core cups printer-driver-cups-pdf librsvg2-bin
+            fonts-dejavu-core cups printer-driver-cups-pdf librsvg2-bin dpkg-dev file \
+            appstream
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test bench install fuzz asan pictures clean
+.PHONY: all deps configure build run test bench install package fuzz asan pictures clean
 
 all: build
 
@@ -91,6 +92,14 @@ install: build
 	  $(SUDO) update-desktop-database $(PREFIX)/share/applications; fi
 	@if command -v gtk-update-icon-cache >/dev/null; then \
 	  $(SUDO) gtk-update-icon-cache -q -t $(PREFIX)/share/icons/hicolor; fi
+
+# The Debian package $(BUILD_DIR)/gridpages_VERSION_ARCH.deb, for
+# `apt install ./build/gridpages_*.deb`; an older version's package is
+# removed so that the pattern names one file.
+package: build
+	rm -f $(BUILD_DIR)/gridpages_*.deb
+	cd $(BUILD_DIR) && cpack -G DEB
+	@ls $(BUILD_DIR)/gridpages_*.deb
 
 clean:
 	rm -rf $(BUILD_DIR)
