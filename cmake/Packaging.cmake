@@ -17,9 +17,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${GRIDPAGES_MAINTAINER}")
 set(CPACK_DEBIAN_PACKAGE_SECTION education)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+# CPack puts the summary above this as the synopsis line.
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-"page maker for the mathematics classroom
-gridpages prints graph papers (triangles, squares, centred squares,
+"gridpages prints graph papers (triangles, squares, centred squares,
 hexagons, a parabola on inch axes, a multiplication chart, puzzle
 outlines), fold-up templates of polyhedra at true size, string art
 and Explode It, a shape enlarged, slid or multiplied by a matrix.

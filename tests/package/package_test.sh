@@ -41,6 +41,9 @@ field() { dpkg-deb -f "$deb" "$1"; }
 [ "$(field Architecture)" = "$arch" ] || fail "Architecture is '$(field Architecture)', not $arch"
 [ -n "$(field Maintainer)" ] || fail "no Maintainer"
 [ -n "$(field Section)" ] || fail "no Section"
+synopsis=$(field Description | sed -n 1p)
+[ -n "$synopsis" ] || fail "no synopsis"
+[ "$(field Description | sed -n '2s/^ //p')" != "$synopsis" ] || fail "Description repeats its synopsis"
 depends=$(field Depends)
 echo "Depends: $depends"
 # Whole package names, versions and alternatives set apart.
