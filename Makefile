@@ -9,11 +9,12 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
 PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev \
             libgmock-dev libbenchmark-dev poppler-utils fonts-liberation fonts-liberation2 \
-            fonts-dejavu-core cups printer-driver-cups-pdf
+            fonts-dejavu-core cups printer-driver-cups-pdf librsvg2-bin dpkg-dev file \
+            appstream
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test bench install fuzz asan pictures clean
+.PHONY: all deps configure build run test bench install package fuzz asan pictures clean
 
 all: build
 
@@ -83,14 +84,22 @@ pictures: build
 
 PREFIX ?= /usr/local
 
-# The program, its desktop entry, icon and man page, so that it shows in
-# the desktop's menu.
+# The program, its desktop entry, icons, man page and metainfo, so that it
+# shows in the desktop's menu.
 install: build
 	$(SUDO) cmake --install $(BUILD_DIR) --prefix $(PREFIX)
 	@if command -v update-desktop-database >/dev/null; then \
 	  $(SUDO) update-desktop-database $(PREFIX)/share/applications; fi
 	@if command -v gtk-update-icon-cache >/dev/null; then \
 	  $(SUDO) gtk-update-icon-cache -q -t $(PREFIX)/share/icons/hicolor; fi
+
+# The Debian package $(BUILD_DIR)/gridpages_VERSION_ARCH.deb, for
+# `apt install ./build/gridpages_*.deb`; an older version's package is
+# removed so that the pattern names one file.
+package: build
+	rm -f $(BUILD_DIR)/gridpages_*.deb
+	cd $(BUILD_DIR) && cpack -G DEB
+	@ls $(BUILD_DIR)/gridpages_*.deb
 
 clean:
 	rm -rf $(BUILD_DIR)
