@@ -7,12 +7,9 @@
 #include <QPdfWriter>
 
 #include "platform/painter_device.h"
+#include "platform/sheet_frame.h"
 
 namespace gp {
-
-namespace {
-constexpr double kMargin = 360.0;  // a quarter inch, in twips
-}
 
 void paintSheet(QPagedPaintDevice& device, const Page& page, Single printableWidth,
                 Single printableHeight, double margin) {
@@ -30,10 +27,11 @@ bool writeSheetPdf(const QString& path, const Page& page, Single printableWidth,
     QPdfWriter writer(path);
     writer.setResolution(1440);
     writer.setCreator("gridpages");
-    const QSizeF inches((printableWidth + 2 * kMargin) / 1440.0, (printableHeight + 2 * kMargin) / 1440.0);
+    const SheetFrame frame = SheetFrame::around(printableWidth, printableHeight);
+    const QSizeF inches(frame.paperWidth / 1440.0, frame.paperHeight / 1440.0);
     writer.setPageLayout(QPageLayout(QPageSize(inches, QPageSize::Inch, QString(), QPageSize::ExactMatch),
                                      QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
-    paintSheet(writer, page, printableWidth, printableHeight, kMargin);
+    paintSheet(writer, page, printableWidth, printableHeight, frame.margin);
     return true;
 }
 
