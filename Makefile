@@ -9,7 +9,7 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
 PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev \
             libgmock-dev libbenchmark-dev poppler-utils fonts-liberation fonts-liberation2 \
-            fonts-dejavu-core cups printer-driver-cups-pdf
+            fonts-dejavu-core cups printer-driver-cups-pdf librsvg2-bin
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
