@@ -7,6 +7,7 @@
 #include <QString>
 #include <string>
 
+#include "platform/sheet_frame.h"
 #include "shell/page.h"
 #include "shell/sheet_folder.h"
 
@@ -19,18 +20,20 @@ namespace gp {
 void paintSheet(QPagedPaintDevice& device, const Page& page, Single printableWidth,
                 Single printableHeight, double margin);
 
-// The bytes of a one-page PDF file of the sheet.
-QByteArray sheetPdf(const Page& page, Single printableWidth, Single printableHeight);
+// The bytes of a one-page PDF file of the sheet, its page the frame's paper.
+QByteArray sheetPdf(const Page& page, Single printableWidth, Single printableHeight, const SheetFrame& frame);
 
 // DIR/sheet-0001.pdf, sheet-0002.pdf, ... one file a sheet.
 class PdfSheetSink : public PageSink {
 public:
-    explicit PdfSheetSink(const std::string& directory) : folder_(directory, "pdf") {}
+    explicit PdfSheetSink(const std::string& directory, SheetPaper paper = {})
+        : folder_(directory, "pdf"), paper_(paper) {}
     OutputResult emitPage(const Page& page, Single printableWidth, Single printableHeight) override;
     QString lastFile() const { return QString::fromStdString(folder_.lastFile()); }
 
 private:
     SheetFolder folder_;
+    SheetPaper paper_;
 };
 
 } // namespace gp

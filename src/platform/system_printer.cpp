@@ -56,7 +56,8 @@ OutputResult SystemPrinterSink::emitPage(const Page& page, Single printableWidth
 
 OutputResult SystemPrinterSink::saveAsPdf(const Page& page, Single printableWidth, Single printableHeight) {
     const QString folder = fallbackFolder();
-    const QByteArray bytes = sheetPdf(page, printableWidth, printableHeight);
+    const QByteArray bytes =
+        sheetPdf(page, printableWidth, printableHeight, SheetFrame::around(printableWidth, printableHeight));
     const OutputResult saved = fallback_.write(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
     if (!saved.ok()) return saved;
     if (!told_) {
