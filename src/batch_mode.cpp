@@ -5,8 +5,10 @@
 #include <cstring>
 #include <memory>
 
+#include "platform/paper.h"
 #include "platform/pdf_sheets.h"
 #include "platform/qt_drawing.h"
+#include "platform/svg_sheet.h"
 #include "shell/script/form_catalog.h"
 #include "shell/script/script_file.h"
 #include "shell/script/scripted_session.h"
@@ -59,6 +61,27 @@ void warn(const std::string& file, const std::string& message) {
 } // namespace
 
 int runBatch(const CommandLine& options, const Program& program) {
+    SessionSettings settings;
+    settings.printerWidth = static_cast<Single>(options.printerWidth);
+    settings.printerHeight = static_cast<Single>(options.printerHeight);
+    settings.seeded = options.seeded;
+    settings.seed = static_cast<std::uint32_t>(options.seed);
+    SheetPaper sheetPaper;
+    if (!options.paper.empty()) {
+        const std::optional<QPageSize> paper = paperNamed(options.paper);
+        if (!paper) {
+            std::fprintf(stderr, "gridpages: unknown paper %s (letter, legal, a3, a4, a5 or system)\n",
+                         options.paper.c_str());
+            return 2;
+        }
+        // The sheet is the paper itself; the pages draw inside its margins.
+        const PrintableArea area = printableInside(*paper);
+        const TwipsSize size = paperTwips(*paper);
+        settings.printerWidth = static_cast<Single>(area.width);
+        settings.printerHeight = static_cast<Single>(area.height);
+        sheetPaper = SheetPaper{true, size.width, size.height};
+    }
+
     const std::string scriptName = options.script == "-" ? "<stdin>" : options.script;
     std::vector<std::string> lines;
     std::string error;
@@ -72,12 +95,6 @@ int runBatch(const CommandLine& options, const Program& program) {
         return 1;
     }
 
-    SessionSettings settings;
-    settings.printerWidth = static_cast<Single>(options.printerWidth);
-    settings.printerHeight = static_cast<Single>(options.printerHeight);
-    settings.seeded = options.seeded;
-    settings.seed = static_cast<std::uint32_t>(options.seed);
-
     int status = 0;
     std::vector<std::string> failures;
     std::vector<std::string> warnings;
@@ -87,8 +104,13 @@ int runBatch(const CommandLine& options, const Program& program) {
         ScriptedSession session(program, trace, &measurer, settings);
         std::unique_ptr<PdfSheetSink> pdf;
         if (!options.pdfDir.empty()) {
-            pdf = std::make_unique<PdfSheetSink>(options.pdfDir);
+            pdf = std::make_unique<PdfSheetSink>(options.pdfDir, sheetPaper);
             session.addSheetSink(*pdf);
+        }
+        std::unique_ptr<SvgSheetSink> svg;
+        if (!options.svgDir.empty()) {
+            svg = std::make_unique<SvgSheetSink>(options.svgDir, sheetPaper);
+            session.addSheetSink(*svg);
         }
         try {
             session.start();

@@ -142,9 +142,9 @@ void Layer::point(char command, Single x, Single y) {
 void Layer::stroke(const Pen& given, Single x1, Single y1, Single x2, Single y2) {
     if (!std::isfinite(x1) || !std::isfinite(y1) || !std::isfinite(x2) || !std::isfinite(y2)) return;
     Pen pen = given;
-    // Keep what leaves ink on the printable area; the clip path trims the ink.
-    const double half = pen.thickness() / 2;
-    const Box box{printable_.x0 - half, printable_.y0 - half, printable_.x1 + half, printable_.y1 + half};
+    // Cutters follow the path, not the clip: a stroke ends where the
+    // printable area does, and one wholly outside it is left out.
+    const Box& box = printable_;
     if (!box.holds(x1, y1) || !box.holds(x2, y2)) {
         double ax = x1, ay = y1, bx = x2, by = y2, tIn = 0;
         if (!clipToBox(ax, ay, bx, by, box, tIn)) return;

@@ -21,6 +21,7 @@
 
 #include "platform/sheet_frame.h"
 #include "shell/page.h"
+#include "shell/sheet_folder.h"
 
 namespace gp {
 
@@ -31,5 +32,20 @@ std::string svgSheet(const Page& page, Single printableWidth, Single printableHe
 // A length in twips as an SVG length: "8.5in", "210mm"; exact to a
 // thousandth of a millimetre, well inside a twip.
 std::string svgLength(double twips);
+
+// DIR/sheet-0001.svg, sheet-0002.svg, ... one file a sheet.
+class SvgSheetSink : public PageSink {
+public:
+    explicit SvgSheetSink(const std::string& directory, SheetPaper paper = {})
+        : folder_(directory, "svg"), paper_(paper) {}
+    OutputResult emitPage(const Page& page, Single printableWidth, Single printableHeight) override {
+        return folder_.write(
+            svgSheet(page, printableWidth, printableHeight, paper_.frameFor(page.orientation, printableWidth, printableHeight)));
+    }
+
+private:
+    SheetFolder folder_;
+    SheetPaper paper_;
+};
 
 } // namespace gp

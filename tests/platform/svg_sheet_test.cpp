@@ -193,7 +193,7 @@ TEST(SvgSheet, HalfCubeHasItsFoldsAndCutsInTwoLayersAtTrueSize) {
                 continue;
             }
             ++cutBack;
-            EXPECT_FLOAT_EQ(std::max(s.y1, s.y2), 15130.0f);
+            EXPECT_FLOAT_EQ(std::max(s.y1, s.y2), 15120.0f);
             EXPECT_EQ(std::min(s.y1, s.y2), std::min(w.y1, w.y2));
         }
     EXPECT_EQ(cutBack, 4);
@@ -307,11 +307,12 @@ TEST(SvgSheet, StrokesAreCutBackToThePrintableArea) {
     const Svg svg = readSvg(svgOf(page));
     ASSERT_EQ(svg.layers.size(), 2u);
     ASSERT_EQ(svg.layers[0].paths.size(), 1u);
-    // Cut back to the edge less half the pen; the dashes stay where they were.
-    EXPECT_EQ(svg.layers[0].paths[0].attr("d"), "M-10 500L1000 500");
-    EXPECT_EQ(svg.layers[0].paths[0].attr("stroke-dashoffset"), "90");  // 990 twips in, 180 a period
+    // Cut back to the edge of the printable area, where a cutter must stop;
+    // the dashes stay where they were.
+    EXPECT_EQ(svg.layers[0].paths[0].attr("d"), "M0 500L1000 500");
+    EXPECT_EQ(svg.layers[0].paths[0].attr("stroke-dashoffset"), "100");  // 1000 twips in, 180 a period
     ASSERT_EQ(svg.layers[1].paths.size(), 1u);
-    EXPECT_EQ(svg.layers[1].paths[0].attr("d"), "M-100 1000L2000 1000");
+    EXPECT_EQ(svg.layers[1].paths[0].attr("d"), "M0 1000L2000 1000");
 
     NEED_RSVG();
     const QImage img = rendered(svgOf(page));
