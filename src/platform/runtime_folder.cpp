@@ -1,10 +1,12 @@
 #include "platform/runtime_folder.h"
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
 #include <initializer_list>
+#include <string>
 #include <unistd.h>
 
 namespace gp {
@@ -12,7 +14,7 @@ namespace gp {
 namespace {
 // The folder made for this run; a fixed buffer, so that a signal handler can
 // use it without allocating.
-char gFolder[64] = "";
+char gFolder[256] = "";
 
 // Removes the folder and what Qt left in it (plain files only, one level).
 // Only calls that are safe in a signal handler.
@@ -44,7 +46,10 @@ void onSignal(int signal) {
 
 RuntimeFolder::RuntimeFolder() {
     if (const char* dir = std::getenv("XDG_RUNTIME_DIR"); dir && *dir) return;
-    std::strcpy(gFolder, "/tmp/gridpages-runtime-XXXXXX");
+    // In the temporary folder the user's TMPDIR names, as mktemp does.
+    const char* tmp = std::getenv("TMPDIR");
+    const std::string base = tmp && *tmp && std::strlen(tmp) < sizeof gFolder - 32 ? tmp : "/tmp";
+    std::snprintf(gFolder, sizeof gFolder, "%s/gridpages-runtime-XXXXXX", base.c_str());
     if (!::mkdtemp(gFolder)) {
         gFolder[0] = '\0';
         return;

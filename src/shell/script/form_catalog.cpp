@@ -46,7 +46,7 @@ std::string handled(const Form& form, const std::string& control) {
 std::string commandFor(const Control& c) {
     const std::string& n = c.displayName();
     switch (c.kind()) {
-    case ControlKind::TextBox: return "text " + n + " VALUE | type " + n + " VALUE | blur " + n;
+    case ControlKind::TextBox: return "text " + n + " VALUE | type " + n + " VALUE";
     case ControlKind::Button: return "click " + n;
     case ControlKind::Label: return "click " + n + " | mousedown " + n + " X Y B";
     case ControlKind::CheckBox: return "check " + n + " 0|1";
@@ -124,7 +124,11 @@ std::optional<std::string> describeForm(const Program& program, const std::strin
             const std::string events = handled(f, c->name());
             if (!events.empty()) row += " [" + events + "]";
             const std::string command = commandFor(*c);
-            if (!command.empty() && !events.empty()) row += ": " + command;
+            // Boxes take a value whether or not a handler watches them;
+            // anything else is worth a command only where it does something.
+            const bool input = cd.kind == ControlKind::TextBox || cd.kind == ControlKind::CheckBox ||
+                               cd.kind == ControlKind::Option;
+            if (!command.empty() && (input || !events.empty())) row += ": " + command;
             out += row + "\n";
         }
     });
