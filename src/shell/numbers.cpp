@@ -114,6 +114,9 @@ namespace {
 // for decimal exponents from -4 up to precision - 1 and as 1.5E+20 otherwise,
 // with no 0 before the point and a leading blank for a value not negative.
 std::string formatStr(double x, int precision) {
+    // No arithmetic of the pages can leave an infinity or a NaN in a number
+    // without overflowing first: one that arrives here is that overflow.
+    if (!std::isfinite(x)) throwOverflow();
     if (x == 0.0) return " 0";  // also -0: there is no negative zero in text
     char buf[64];
     std::snprintf(buf, sizeof buf, "%.*e", precision - 1, x);

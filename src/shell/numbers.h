@@ -94,7 +94,8 @@ Integer IMul(Integer a, Integer b);
 
 // Number to text with a leading blank for a value that is not negative and
 // no 0 before the point: Str(0.5) is " .5". Doubles keep 15 significant
-// digits, Singles 7.
+// digits, Singles 7. An infinity or a NaN, which no store could have made,
+// is an Overflow.
 std::string Str(Double x);
 std::string Str(Single x);
 std::string Str(long long x);

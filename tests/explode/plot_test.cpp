@@ -50,6 +50,7 @@ TEST(ExplodeClicks, OnlyStrictlyInsideCountsAndBeforeNewGraphTheTableIsEmpty) {
     EXPECT_EQ(e.t.count(kForm, "line") + e.t.faults().size(), 0u);
     EXPECT_EQ(e("cmdClear @12200,5000 @0,5000 @6000,1540 @6000,9300").f().clickCount(), 1);
     EXPECT_EQ(e("@12199.5,9299.5 @0.5,1540.5").f().pointCount(), 2);
+    EXPECT_EQ(e("@nan,5000 @6000,nan @inf,5000 @-inf,5000 @3e38,-3e38").f().pointCount(), 2);
 }
 
 TEST(ExplodeClicks, ClickedPointsAreStoredShownJoinedAndRun) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 
 #include "shell/numbers.h"
 
@@ -84,6 +85,23 @@ TEST(Str, WritesTheLeadingBlankAndNoZeroBeforeThePoint) {
     EXPECT_EQ(Str(2.3f), " 2.3");
     EXPECT_EQ(Str(-1.3f), "-1.3");
     EXPECT_EQ(Str(1e8f), " 1E+08");
+}
+
+TEST(Str, TheLargestNumbersKeepTheirDigitsAndNoNumberAtAllIsAnOverflow) {
+    EXPECT_EQ(Str(-1.7976931348623157e308), "-1.79769313486232E+308");
+    EXPECT_EQ(Str(4.9e-324), " 4.94065645841247E-324");
+    EXPECT_EQ(Str(3.4028235e38f), " 3.402823E+38");
+    // An infinity or a NaN can only come from a value that already overflowed.
+    const double inf = std::numeric_limits<double>::infinity(), nan = std::nan("");
+    for (double bad : {inf, -inf, nan}) {
+        try {
+            Str(bad);
+            ADD_FAILURE() << bad;
+        } catch (const Fault& f) {
+            EXPECT_EQ(f.kind(), FaultKind::Overflow);
+        }
+        EXPECT_THROW(Str(static_cast<Single>(bad)), Fault);
+    }
 }
 
 TEST(Conversions, CDblRefusesTextThatIsNoNumber) {

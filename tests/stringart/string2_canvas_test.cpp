@@ -3,6 +3,8 @@
 // the read-out, the colour passes, the Shapes menu, and "Print It" with its
 // questions, exchanged axes, scaled and centred figure.
 
+#include <limits>
+
 #include "string2_fixture.h"
 
 namespace gp::string2test {
@@ -108,6 +110,25 @@ TEST_F(String2Test, LiveReadOutAboutAndEnd) {
         a.y = Single(at.second);
         t.fire(*f, kFormEvents, Event::MouseMove, a);
         EXPECT_EQ(static_cast<Label*>(f->find("lblXY"))->Caption(), shown);
+    }
+    // A position that no Single holds is an overflow, told once; the read-out
+    // keeps the last position and the form goes on.
+    for (float bad : {std::numeric_limits<float>::infinity(), -std::numeric_limits<float>::infinity(),
+                      std::numeric_limits<float>::quiet_NaN()}) {
+        for (bool onX : {true, false}) {
+            EventArgs a;
+            a.x = onX ? bad : 2000.0f;
+            a.y = onX ? 100.0f : bad;
+            t.clear();
+            t.fire(*f, kFormEvents, Event::MouseMove, a);
+            ASSERT_EQ(t.faults().size(), 1u);
+            EXPECT_NE(t.faults()[0].find("(overflow)"), std::string::npos);
+            EXPECT_EQ(static_cast<Label*>(f->find("lblXY"))->Caption(), "(123455232,98774417)");
+            a.button = 1;
+            t.fire(*f, kFormEvents, Event::MouseDown, a);  // no click outside the canvas is taken
+            EXPECT_EQ(f->lastPoint(), 14);
+            EXPECT_TRUE(t.ops().empty());
+        }
     }
     press("mnuAbout");
     EXPECT_EQ(last(), "Info About Program|Click around on the area at the right or enter a coordinate and click in "
