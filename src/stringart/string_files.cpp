@@ -4,6 +4,7 @@
 
 #include <fstream>
 
+#include "shell/safe_file.h"
 #include "stringart/frm_string2.h"
 
 namespace gp {
@@ -50,15 +51,14 @@ void FrmString2::mnuSave_Click() {
                                   5000, 6000);
         // Cancel gives the empty name.
         if (Trim(StringFileName).empty()) throw StringArtFileError("no name");
-        // The whole text is made before the file is touched, so that a list
-        // that cannot be written leaves an existing file as it was.
+        // The whole text is made before the file is touched, and it replaces
+        // an existing file only once it is all on the disk: a list that cannot
+        // be written, a full disk or a folder that refuses the file leave the
+        // old file as it was.
         std::string text = StringArtLine(NextPoint) + StringArtLine(LastPoint);
         for (int i = 1; i <= LastPoint; ++i) text += StringArtLine(PX(i)) + StringArtLine(PY(i));
-        std::ofstream out(StringFileName, std::ios::binary | std::ios::trunc);
-        if (!out) throw StringArtFileError("cannot create the file");
-        out << text;
-        out.close();
-        if (out.fail()) throw StringArtFileError("cannot write the file");
+        std::string why;
+        if (!writeFileSafely(StringFileName, text, true, why)) throw StringArtFileError(why);
     } catch (const std::exception&) {
         MsgBox("You cancelled the Save.", vbOKOnly, "");
         return;

@@ -2,10 +2,17 @@
 // questions, one failure message per operation, and a form that stays
 // usable after any bad file.
 
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <sstream>
 
 #include "string2_fixture.h"
@@ -35,6 +42,18 @@ protected:
         return (std::stringstream() << std::ifstream(path(name), std::ios::binary).rdbuf()).str();
     }
     void save(const std::string& name) { t.answer(name); press("mnuSave"); }
+    // Saves the cube over `name`, which holds the triangle, and tells what
+    // went wrong: the old bytes must stay and the one message come up.
+    std::string saveOverTriangleFails(const std::string& name) {
+        press("mnuCube");
+        t.clear();
+        save(path(name));
+        std::string wrong;
+        if (read(name) != kTriangle1) wrong += "the old file was changed to \"" + read(name) + "\"; ";
+        if (last() != "|You cancelled the Save.") wrong += "the message was \"" + last() + "\"; ";
+        return wrong;
+    }
+    int entries() const { return int(std::distance(fs::directory_iterator(dir), fs::directory_iterator())); }
     void open(const std::string& name) {  // the question, if any, answered Yes
         if (f->lastPoint() > 3) t.answer("6");
         t.answer(name);
@@ -175,6 +194,98 @@ TEST_F(String2Files, WrittenAndReadBackGivesTheSamePoints) {
     press("mnutetra2");
     save(path("t2"));
     EXPECT_EQ(read("t1").substr(0, 10) + read("t2").substr(0, 10), " 18 \r\n 17  22 \r\n 21 ");
+}
+
+// Runs `body` in a child process with a mount table of its own, where a tiny
+// or read-only file system can be mounted for it alone. Gives what body
+// gives ("" when all is well), or "skip: ..." where mounting is not allowed.
+std::string inPrivateMounts(const std::function<std::string()>& body) {
+    int pipeEnds[2];
+    if (pipe(pipeEnds) != 0) return "skip: no pipe";
+    const pid_t pid = fork();
+    if (pid == 0) {
+        close(pipeEnds[0]);
+        std::string out;
+        if (unshare(CLONE_NEWNS) != 0 || mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+            out = std::string("skip: no mount table of our own here (") + std::strerror(errno) + ")";
+        else
+            out = body();
+        if (write(pipeEnds[1], out.data(), out.size()) < 0) _exit(2);
+        _exit(0);
+    }
+    close(pipeEnds[1]);
+    std::string out;
+    char buf[512];
+    for (ssize_t n; (n = read(pipeEnds[0], buf, sizeof buf)) > 0;) out.append(buf, size_t(n));
+    close(pipeEnds[0]);
+    int status = 0;
+    waitpid(pid, &status, 0);
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) out += " (the child process failed)";
+    return out;
+}
+
+void expectOrSkip(const std::string& outcome) {
+    if (outcome.rfind("skip: ", 0) == 0) GTEST_SKIP() << outcome.substr(6);
+    EXPECT_EQ(outcome, "");
+}
+
+TEST_F(String2Files, ASaveOnAFullDiskLeavesTheOldFileWholeAndNoTemporary) {
+    expectOrSkip(inPrivateMounts([&]() -> std::string {
+        if (mount("tmpfs", dir.c_str(), "tmpfs", 0, "size=16k") != 0)
+            return std::string("skip: cannot mount a small file system (") + std::strerror(errno) + ")";
+        write("tri", kTriangle1);
+        // Fill every block that is left, to the last byte.
+        {
+            std::ofstream fill(path("fill"), std::ios::binary);
+            const std::string block(4096, 'x');
+            while (fill.write(block.data(), block.size()) && fill.flush()) {}
+        }
+        for (std::ofstream more(path("fill"), std::ios::binary | std::ios::app); more.put('x') && more.flush();) {}
+        std::string wrong = saveOverTriangleFails("tri");
+        if (entries() != 2) wrong += "a temporary file was left behind; ";
+        // Room again: the same name is saved whole.
+        fs::remove(path("fill"));
+        save(path("tri"));
+        if (last() != "Saved|File: " + path("tri") + " has been stored successfully" || read("tri") == kTriangle1)
+            wrong += "the save after did not work; ";
+        return wrong;
+    }));
+}
+
+TEST_F(String2Files, ALinkAFolderAndAReadOnlyFolderKeepWhatTheyHold) {
+    // A name that is a link is not written through: what it points at stays.
+    write("tri", kTriangle1);
+    fs::create_symlink(path("tri"), path("link"));
+    press("mnuCube");
+    t.clear();
+    save(path("link"));
+    EXPECT_EQ(last(), "|You cancelled the Save.");
+    EXPECT_EQ(read("tri"), kTriangle1);
+    EXPECT_TRUE(fs::is_symlink(path("link")));
+    // A folder stays a folder, with what is in it.
+    fs::create_directories(path("folder"));
+    write("folder/tri", kTriangle1);
+    t.clear();
+    save(path("folder"));
+    EXPECT_EQ(last(), "|You cancelled the Save.");
+    EXPECT_EQ(read("folder/tri"), kTriangle1);
+    EXPECT_EQ(entries(), 3);
+    // A folder that takes no new files: a file in it is not rewritten in place.
+    fs::remove(path("link"));
+    fs::remove_all(path("folder"));
+    if (geteuid() != 0) {
+        ::chmod(dir.c_str(), 0555);
+        EXPECT_EQ(saveOverTriangleFails("tri"), "");
+        ::chmod(dir.c_str(), 0755);
+        return;
+    }
+    // Root writes in any folder it may not: only a read-only mount stops it.
+    expectOrSkip(inPrivateMounts([&]() -> std::string {
+        if (mount(dir.c_str(), dir.c_str(), nullptr, MS_BIND, nullptr) != 0 ||
+            mount(nullptr, dir.c_str(), nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr) != 0)
+            return std::string("skip: cannot mount the folder read-only (") + std::strerror(errno) + ")";
+        return saveOverTriangleFails("tri");
+    }));
 }
 
 } // namespace
