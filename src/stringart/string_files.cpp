@@ -2,7 +2,13 @@
 
 #include "stringart/string_files.h"
 
-#include <fstream>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <sstream>
 
 #include "shell/safe_file.h"
 #include "stringart/frm_string2.h"
@@ -16,6 +22,39 @@ bool separator(int c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' |
 std::string StringArtLine(int value) {
     const long long v = value;
     return (v < 0 ? "-" : " ") + std::to_string(v < 0 ? -v : v) + " \r\n";
+}
+
+std::string ReadStringArtFile(const std::string& path) {
+    // Opened without waiting: a pipe with no writer would otherwise hold the
+    // window for ever, before the check below could refuse it.
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) throw StringArtFileError(std::strerror(errno));
+    struct Closer {
+        int fd;
+        ~Closer() { ::close(fd); }
+    } closer{fd};
+    struct stat st {};
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) throw StringArtFileError("not a plain file");
+    // One byte past the cap tells whether the file goes on.
+    std::string bytes(kStringArtFileCap + 1, '\0');
+    size_t got = 0;
+    while (got < bytes.size()) {
+        const ssize_t n = ::read(fd, &bytes[got], bytes.size() - got);
+        if (n == 0) break;
+        if (n < 0) {
+            if (errno == EINTR) continue;
+            throw StringArtFileError(std::strerror(errno));
+        }
+        got += static_cast<size_t>(n);
+    }
+    if (got <= kStringArtFileCap) {
+        bytes.resize(got);
+        return bytes;
+    }
+    size_t keep = kStringArtFileCap;
+    while (keep > 0 && !separator(static_cast<unsigned char>(bytes[keep]))) --keep;
+    bytes.resize(keep);
+    return bytes;
 }
 
 int StringArtReader::next() {
@@ -77,8 +116,7 @@ void FrmString2::mnuOpen_Click() {
         StringFileName = InputBox("Enter the name of the file you want to Open:", "Open File Name", "Shape1",
                                   2000, 4000);
         if (Trim(StringFileName).empty()) throw StringArtFileError("no name");
-        std::ifstream in(StringFileName, std::ios::binary);
-        if (!in) throw StringArtFileError("cannot open the file");
+        std::istringstream in(ReadStringArtFile(StringFileName));
         StringArtReader reader(in);
         // Straight into the fields: a read that fails part of the way keeps
         // what it has taken so far, and nothing is drawn.
@@ -88,7 +126,6 @@ void FrmString2::mnuOpen_Click() {
             PX(i) = reader.next();
             PY(i) = reader.next();
         }
-        in.close();
         Redraw();
     } catch (const std::exception&) {
         MsgBox("Open has been cancelled.", vbOKOnly, "");

@@ -8,12 +8,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <sstream>
+#include <thread>
 
 #include "string2_fixture.h"
 #include "stringart/string_files.h"
@@ -194,6 +197,71 @@ TEST_F(String2Files, WrittenAndReadBackGivesTheSamePoints) {
     press("mnutetra2");
     save(path("t2"));
     EXPECT_EQ(read("t1").substr(0, 10) + read("t2").substr(0, 10), " 18 \r\n 17  22 \r\n 21 ");
+}
+
+TEST_F(String2Files, OnlyPlainFilesAreOpenedAndNeverMoreThanTheCap) {
+    using Clock = std::chrono::steady_clock;
+    const auto seconds = [](Clock::time_point since) {
+        return std::chrono::duration<double>(Clock::now() - since).count();
+    };
+    const auto openTimed = [&](const std::string& name) {
+        press("mnuCube");
+        t.clear();
+        const auto start = Clock::now();
+        open(name);
+        return seconds(start);
+    };
+    // A pipe that no one writes to. Should Open wait for a writer after all,
+    // one comes after two seconds, so that the test fails instead of hanging.
+    ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
+    std::atomic<bool> done{false};
+    std::thread writer([&] {
+        const auto start = Clock::now();
+        while (!done && seconds(start) < 2) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        const int fd = ::open(path("pipe").c_str(), O_WRONLY | O_NONBLOCK);
+        if (fd >= 0) ::close(fd);
+    });
+    const double pipeSeconds = openTimed(path("pipe"));
+    done = true;
+    writer.join();
+    EXPECT_LT(pipeSeconds, 1.0);
+    EXPECT_EQ(last(), kCancelled);
+    EXPECT_EQ(f->lastPoint(), 29);  // nothing was read
+    // Devices and folders are no files of points either.
+    for (const std::string& name : {std::string("/dev/zero"), std::string("/dev/null"), dir.string()}) {
+        EXPECT_LT(openTimed(name), 1.0) << name;
+        EXPECT_EQ(last(), kCancelled) << name;
+        EXPECT_EQ(f->lastPoint(), 29) << name;
+    }
+    // A gigabyte with no separator (a sparse file: it costs no disk) is one
+    // value too long for any Integer, found within the first kilobytes.
+    {
+        std::ofstream(path("huge"), std::ios::binary) << "";
+        fs::resize_file(path("huge"), std::uintmax_t(1) << 30);
+    }
+    EXPECT_LT(openTimed(path("huge")), 1.0);
+    EXPECT_EQ(last(), kCancelled);
+    // What follows the last point is never read, however long it is.
+    write("tail", kTriangle1);
+    fs::resize_file(path("tail"), std::uintmax_t(1) << 30);
+    EXPECT_LT(openTimed(path("tail")), 1.0);
+    EXPECT_EQ(f->lastPoint(), 5);
+    EXPECT_EQ(t.count("frmString2", "line"), 2 + 3 * 15);
+    // A file of points is read through a link to it.
+    fs::create_symlink(path("tail"), path("link"));
+    openTimed(path("link"));
+    EXPECT_EQ(f->lastPoint(), 5);
+    // Values wholly inside the cap are read; one cut by it is not taken for
+    // a shorter number, and one beyond it is not read at all.
+    const std::string head = " 6 \r\n 5 \r\n 1000 \r\n 100 \r\n 11000 \r\n 100 \r\n 6000 \r\n 8760 \r\n 1000 \r\n 100 \r\n 11000 ";
+    write("edge", std::string(kStringArtFileCap - head.size() - 3, ' ') + head + "100 " + std::string(100, ' '));
+    openTimed(path("edge"));
+    EXPECT_EQ(f->lastPoint(), 5);
+    EXPECT_EQ(f->pointY(5), 100);
+    write("edge", std::string(kStringArtFileCap - head.size() - 2, ' ') + head + "100 " + std::string(100, ' '));
+    openTimed(path("edge"));
+    EXPECT_EQ(last(), kCancelled);
+    EXPECT_EQ(f->pointX(5), 11000);  // read up to the value that the cap cuts
 }
 
 // Runs `body` in a child process with a mount table of its own, where a tiny
