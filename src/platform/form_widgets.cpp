@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPalette>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -19,17 +20,35 @@
 namespace gp {
 
 namespace {
-QString colourSheet(const char* property, long colour) {
-    if (colour == kDefaultColor) return {};
-    if (colour == kTransparent) return QString("%1: transparent;").arg(property);
-    const QColor c = colour == kSystem3DHighlight ? QColor(255, 255, 255) : toQColor(colour);
-    return QString("%1: %2;").arg(property, c.name());
+bool hasColour(long colour) { return colour != kDefaultColor && colour != kTransparent; }
+
+QColor colourOf(long colour) { return colour == kSystem3DHighlight ? QColor(255, 255, 255) : toQColor(colour); }
+
+// A control's colours go into its palette, once. A style sheet looks the
+// same, but it hands the style a newly made palette at every paint, and the
+// style files its pixmap of a button under the palette's key: every repaint
+// of a coloured button added an entry to the pixmap cache, and a form that
+// repaints at every tick of its timer grew by megabytes a minute.
+void setColours(QWidget* w, const ControlDesign& d) {
+    if (!hasColour(d.backColor) && !hasColour(d.foreColor)) return;
+    QPalette p = w->palette();
+    if (hasColour(d.backColor)) {
+        const QColor back = colourOf(d.backColor);
+        for (QPalette::ColorRole role : {QPalette::Button, QPalette::Window, QPalette::Base}) p.setColor(role, back);
+        // A button paints its own face; the others fill their rectangle.
+        if (d.kind != ControlKind::Button) w->setAutoFillBackground(true);
+    }
+    if (hasColour(d.foreColor)) {
+        const QColor fore = colourOf(d.foreColor);
+        for (QPalette::ColorRole role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
+            p.setColor(role, fore);
+    }
+    w->setPalette(p);
 }
 } // namespace
 
 QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* parent) {
     QWidget* w = nullptr;
-    QString sheet;
     switch (d.kind) {
     case ControlKind::TextBox: {
         auto* e = new QLineEdit(qs(static_cast<TextBox&>(c).Text()), parent);
@@ -58,7 +77,6 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
         l->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         l->setTextFormat(Qt::PlainText);
         l->installEventFilter(this);
-        if (d.backColor == kDefaultColor) sheet += "background: transparent;";
         w = l;
         break;
     }
@@ -91,9 +109,7 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
     }
     w->setGeometry(QRect(toPixels(d.left, d.top), QSize(pixelsOf(d.width), pixelsOf(d.height))));
     if (d.font) w->setFont(toQFont(*d.font));
-    sheet += colourSheet("background-color", d.backColor == kTransparent ? kDefaultColor : d.backColor);
-    sheet += colourSheet("color", d.foreColor);
-    if (!sheet.isEmpty()) w->setStyleSheet(sheet);
+    setColours(w, d);
     if (!d.toolTip.empty()) w->setToolTip(qs(d.toolTip));
     w->setVisible(d.visible);
     return w;
