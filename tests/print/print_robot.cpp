@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QMessageBox>
+#include <QRadioButton>
 #include <QSpinBox>
 #include <QTimer>
 #include <cstdio>
@@ -51,11 +52,13 @@ void choosePrinter(QDialog& dialog, const QString& queue, int copies) {
     acceptLater(dialog);
 }
 
-void choosePaper(QDialog& dialog, const QString& paperName) {
+void choosePaper(QDialog& dialog, const QString& paperName, bool landscape) {
     for (QComboBox* box : dialog.findChildren<QComboBox*>()) {
         const int at = box->findText(paperName);
         if (at >= 0 && box->objectName() == "pageSizeCombo") box->setCurrentIndex(at);
     }
+    for (QRadioButton* turn : dialog.findChildren<QRadioButton*>())
+        if (turn->objectName() == (landscape ? "landscape" : "portrait")) turn->click();
     acceptLater(dialog);
 }
 

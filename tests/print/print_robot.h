@@ -27,7 +27,7 @@ RobotStep inDialog(std::function<void(QDialog&)> fill);
 
 // Fill-ins for the dialogs of the Printing menu and of a saved sheet.
 void choosePrinter(QDialog& dialog, const QString& queue, int copies);
-void choosePaper(QDialog& dialog, const QString& paperName);
+void choosePaper(QDialog& dialog, const QString& paperName, bool landscape = false);
 void acceptAsItIs(QDialog& dialog);
 
 int runRobot(const std::vector<RobotStep>& steps, int seconds);

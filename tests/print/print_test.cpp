@@ -298,6 +298,10 @@ TEST(NoPrinter, SheetsSavedAsPdfOrSvgGoToTheLastFolderWithNumberedNames) {
     ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
     const QByteArray text = svg.readAll();
     EXPECT_TRUE(text.contains("width=\"210mm\"") && text.contains("height=\"297mm\"")) << text.left(400).toStdString();
+    // Page setup turned the sheets: a page that leaves the orientation open
+    // prints across the A5 paper chosen there.
+    EXPECT_NE(pageSize(last + "/Triangles 1 in - 1.pdf").find("595.276 x 419.528 pts"), std::string::npos)
+        << pageSize(last + "/Triangles 1 in - 1.pdf");
     // The choice of files was kept for the next run.
     std::ifstream conf(home + "/.config/gridpages/gridpages.conf");
     const std::string kept((std::istreambuf_iterator<char>(conf)), std::istreambuf_iterator<char>());
@@ -328,7 +332,11 @@ std::vector<gp::test::RobotStep> robotSteps(const std::string& mode) {
         add({click(halfCube, "Print It"), inDialog(acceptAsItIs), click(halfCube, "E&xit"),
              menu(menuForm, "Print It Saves the Sheet as an SVG File")});
         add(save);
-        add({click(halfCube, "E&xit")});
+        add({click(halfCube, "E&xit"), menu(menuForm, "Print It Saves the Sheet as a PDF File"),
+             menu(menuForm, "Page Setup (Paper, Orientation)..."),
+             inDialog([](QDialog& d) { choosePaper(d, "A5", true); })});
+        add({click(menuForm, "Triangles"), click(triangles, "Print It"), inDialog(acceptAsItIs),
+             click(triangles, "E&xit"), menu(menuForm, "Print It Saves the Sheet as an SVG File")});
     } else {
         add(printTriangles);
     }
