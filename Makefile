@@ -9,7 +9,7 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 
 PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev \
             libgmock-dev libbenchmark-dev poppler-utils fonts-liberation fonts-liberation2 \
-            fonts-dejavu-core cups printer-driver-cups-pdf librsvg2-bin dpkg-dev file \
+            fonts-dejavu-core cups cups-ipp-utils libcups2-dev printer-driver-cups-pdf librsvg2-bin dpkg-dev file \
             appstream
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)

@@ -7,6 +7,7 @@
 
 #include "platform/paper.h"
 #include "platform/pdf_sheets.h"
+#include "platform/print_job.h"
 #include "platform/qt_drawing.h"
 #include "platform/svg_sheet.h"
 #include "shell/script/form_catalog.h"
@@ -67,6 +68,7 @@ int runBatch(const CommandLine& options, const Program& program) {
     settings.seeded = options.seeded;
     settings.seed = static_cast<std::uint32_t>(options.seed);
     SheetPaper sheetPaper;
+    std::optional<QPageSize> namedPaper;
     if (!options.paper.empty()) {
         const std::optional<QPageSize> paper = paperNamed(options.paper);
         if (!paper) {
@@ -80,6 +82,29 @@ int runBatch(const CommandLine& options, const Program& program) {
         settings.printerWidth = static_cast<Single>(area.width);
         settings.printerHeight = static_cast<Single>(area.height);
         sheetPaper = SheetPaper{true, size.width, size.height};
+        namedPaper = paper;
+    }
+    std::optional<PrintTarget> printTarget;
+    if (!options.printQueue.empty()) {
+        const QString queue = installedQueue(QString::fromStdString(options.printQueue));
+        if (queue.isEmpty()) {
+            if (options.printQueue == "default")
+                std::fprintf(stderr, "gridpages: --print default: this computer has no default printer\n");
+            else
+                std::fprintf(stderr, "gridpages: --print %s: there is no such printer (lpstat -p lists them)\n",
+                             options.printQueue.c_str());
+            return 2;
+        }
+        // A named paper keeps its quarter inch on the printer too, so the
+        // sheet lies on it as it does in the PDF.
+        printTarget = PrintTarget{queue, namedPaper, options.copies, namedPaper ? 360.0 : 0.0};
+        if (!options.printerGiven && !namedPaper) {
+            // The pages draw on what the printer prints on, as in the window.
+            if (const std::optional<TwipsSize> area = queuePrintableArea(*printTarget)) {
+                settings.printerWidth = static_cast<Single>(area->width);
+                settings.printerHeight = static_cast<Single>(area->height);
+            }
+        }
     }
 
     const std::string scriptName = options.script == "-" ? "<stdin>" : options.script;
@@ -111,6 +136,15 @@ int runBatch(const CommandLine& options, const Program& program) {
         if (!options.svgDir.empty()) {
             svg = std::make_unique<SvgSheetSink>(options.svgDir, sheetPaper);
             session.addSheetSink(*svg);
+        }
+        std::unique_ptr<PrintJobSink> printJob;
+        if (printTarget) {
+            FormSet& forms = session.forms();
+            printJob = std::make_unique<PrintJobSink>(*printTarget, [&forms] {
+                const Form* form = forms.activeForm();
+                return form ? form->sheetName() : std::string();
+            });
+            session.addSheetSink(*printJob);
         }
         try {
             session.start();

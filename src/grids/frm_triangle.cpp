@@ -37,6 +37,8 @@ FrmTriangle::FrmTriangle(FormSet& app)
     on(kFormEvents, Event::QueryUnload, [this](const EventArgs&) { Form_QueryUnload(); });
 }
 
+std::string FrmTriangle::sheetName() const { return "Triangles " + Trim(txtLeng.Text()) + " in"; }
+
 void FrmTriangle::cmdPrintIt_Click() {
     Printer().setDrawWidth(Int(Val(txtThick.Text())));
     const Integer base = Int(Val(txtLeng.Text()) * 1440);

@@ -11,6 +11,9 @@ public:
     explicit FrmTriangle(FormSet& app);
     static FormDesign Design();
 
+    // "Triangles 1 in": the base length as typed.
+    std::string sheetName() const override;
+
     void cmdPrintIt_Click();
     void cmdExit_Click();
     void Form_QueryUnload();

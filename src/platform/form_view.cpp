@@ -265,4 +265,12 @@ void FormView::refreshCanvas() {
 
 QWidget* FormView::clientArea() const { return client_; }
 
+void FormView::addMenu(QMenu* menu) {
+    if (!menuBar_) {
+        menuBar_ = new QMenuBar(this);
+        layout()->setMenuBar(menuBar_);
+    }
+    menuBar_->addMenu(menu);
+}
+
 } // namespace gp

@@ -15,6 +15,7 @@
 
 class QEventLoop;
 class QMouseEvent;
+class QMenu;
 class QMenuBar;
 class QTimer;
 
@@ -42,6 +43,9 @@ public:
     QWidget* clientArea() const;
     // The form is being unloaded: stop timers and let go of it.
     void detach();
+    // A menu of the platform's own beside those of the design table; the
+    // client area keeps its design size below the menu bar.
+    void addMenu(QMenu* menu);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -4,7 +4,10 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
+#include <QSettings>
 #include <QTime>
+
+#include "platform/sheets_menu.h"
 
 namespace gp {
 
@@ -70,6 +73,7 @@ void QtHost::formLoaded(Form& form) {
     form.Me().setTextMeasurer(&measurer_);
     auto* view = new FormView(*app_, form);
     views_[&form] = view;
+    if (startHook_ && form.name() == startForm_) startHook_(*view);
 }
 
 void QtHost::formShown(Form& form, bool modal) {
@@ -108,7 +112,8 @@ void QtHost::endProgram() {
 }
 
 void WindowedOutputFailures::outputFailed(const std::string& message) {
-    QMessageBox::warning(activeParent(), "Not saved", qs("The sheet could not be written.\n\n" + message));
+    QMessageBox::warning(activeParent(), "Not printed",
+                         qs("The sheet could not be printed or saved.\n\n" + message));
 }
 
 Single SystemClock::Timer() const {
@@ -116,9 +121,34 @@ Single SystemClock::Timer() const {
 }
 
 int runWindowed(const Program& program) {
-    SystemPrinterSink sink;
-    DrawingSurface printer(DrawingSurface::Kind::Printer, "Printer", sink.printableWidth(),
-                           sink.printableHeight());
+    QSettings store("gridpages", "gridpages");
+    SheetSettings settings = SheetSettings::load(store);
+    SheetSettings stored = settings;
+    DrawingSurface printer(DrawingSurface::Kind::Printer, "Printer", 0, 0);
+    // The Printer's area follows the choice (and the printers installed);
+    // its orientation starts at the chosen default and changes only when
+    // that choice does, so a page that sets its own keeps it.
+    int orientation = 0;
+    auto follow = [&] {
+        const SheetPlan plan = planSheets(settings);
+        printer.setScale(static_cast<Single>(plan.area.width), static_cast<Single>(plan.area.height));
+        if (settings.orientation != orientation) printer.setOrientation(orientation = settings.orientation);
+        if (settings != stored) {
+            settings.save(store);
+            stored = settings;
+        }
+    };
+    follow();
+
+    FormSet* running = nullptr;
+    SheetsMenu menu(settings, follow);
+    SystemPrinterSink sink(
+        settings,
+        [&] {
+            Form* form = running ? running->activeForm() : nullptr;
+            return form ? form->sheetName() : std::string();
+        },
+        [&] { return menu.choosePrinter(activeParent()); }, follow);
     WindowedOutputFailures failures;
     PrinterPages pages(printer, failures);
     pages.addSink(sink);
@@ -128,10 +158,12 @@ int runWindowed(const Program& program) {
 
     QtDialogs dialogs;
     QtHost host;
+    host.onStartFormView(program.startForm, [&](FormView& view) { view.addMenu(menu.build(&view)); });
     RandomSource random;
     SystemClock clock;
     random.Randomize(clock.Timer());
     FormSet app(dialogs, host, printer, random, clock);
+    running = &app;
     host.setApp(&app);
     program.registerForms(app);
     app.start(program.startForm);

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QPointer>
+#include <functional>
 #include <memory>
 
 #include "platform/form_view.h"
@@ -26,6 +27,12 @@ public:
 class QtHost : public FormHost {
 public:
     void setApp(FormSet* app) { app_ = app; }
+    // Called with the start-up form's window when it is built: where the
+    // session adds the menus of its own.
+    void onStartFormView(const std::string& startForm, std::function<void(FormView&)> hook) {
+        startForm_ = startForm;
+        startHook_ = std::move(hook);
+    }
     void formLoaded(Form& form) override;
     void formShown(Form& form, bool modal) override;
     void formHidden(Form& form) override;
@@ -37,6 +44,8 @@ private:
     FormSet* app_ = nullptr;
     QHash<Form*, QPointer<FormView>> views_;
     QtTextMeasurer measurer_;
+    std::string startForm_;
+    std::function<void(FormView&)> startHook_;
 };
 
 // A sheet that could not be written: one message that says where and why.
@@ -50,7 +59,9 @@ public:
     Single Timer() const override;
 };
 
-// Runs the program with its menu until the menu's Exit. Returns the exit code.
+// Runs the program with its menu until the menu's Exit. Returns the exit
+// code. Where sheets go is the user's choice, kept in the settings of
+// organisation and application "gridpages" (the Printing menu).
 int runWindowed(const Program& program);
 
 } // namespace gp

@@ -79,6 +79,11 @@ public:
 
     FormSet& app() const { return app_; }
 
+    // What a sheet printed from this form is called where it is saved or
+    // queued: "Half Cube 2 in - 1.pdf", a job named "Triangles 1 in". The
+    // caption unless the form knows a better name.
+    virtual std::string sheetName() const;
+
     bool visible() const { return visible_; }
     bool unloaded() const { return unloaded_; }
 

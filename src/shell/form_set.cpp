@@ -111,11 +111,19 @@ void FormSet::guarded(Form& form, const std::function<void()>& work) {
     meter_.reset();
     struct Depth {
         int& d;
-        explicit Depth(int& depth) : d(depth) { ++d; }
-        ~Depth() { --d; }
+        Form*& active;
+        Form* outer;
+        Depth(int& depth, Form*& a, Form& f) : d(depth), active(a), outer(a) {
+            ++d;
+            active = &f;
+        }
+        ~Depth() {
+            --d;
+            active = outer;
+        }
     };
     {
-    Depth level(depth_);
+    Depth level(depth_, active_, form);
     try {
         work();
     } catch (const Fault& fault) {

@@ -54,6 +54,10 @@ public:
     // raises Change), inside the same guard.
     void guarded(Form& form, const std::function<void()>& work);
 
+    // The form whose handler runs now (the innermost, inside a modal
+    // Show), or nullptr between events: what a printed sheet came from.
+    Form* activeForm() const { return active_; }
+
     Dialogs& dialogs() { return dialogs_; }
     FormHost& host() { return host_; }
     DrawingSurface& printer() { return printer_; }
@@ -75,6 +79,7 @@ private:
     std::vector<std::unique_ptr<Form>> unloadedForms_;  // dropped when no handler runs
     std::string startName_;
     int depth_ = 0;
+    Form* active_ = nullptr;
     bool ended_ = false;
 };
 

@@ -8,6 +8,7 @@ TemplateDescription FrmGreatDodeca::Description() {
     TemplateDescription t;
     t.name = "frmGreatDodeca";
     t.caption = "Great Dodecagon Template";
+    t.sheetTitle = "Great Dodecagon";
     t.clientHeight = 8415;
     t.backColor = RGB(128, 255, 128);
     t.defaultLength = "1.5";

@@ -8,6 +8,7 @@ TemplateDescription FrmHalfCube::Description() {
     TemplateDescription t;
     t.name = "frmHalfCube";
     t.caption = "Folding Half Cube Template";
+    t.sheetTitle = "Half Cube";
     t.backColor = RGB(0, 192, 192);
     t.defaultLength = "1";
     t.infoCaption = "&Info";

@@ -8,6 +8,7 @@ TemplateDescription FrmOneSixthCube::Description() {
     TemplateDescription t;
     t.name = "frmOneSixthCube";
     t.caption = "Folding One-Sixth Cube Pyramid";
+    t.sheetTitle = "One-Sixth Cube Pyramid";
     t.backColor = RGB(0, 192, 192);
     t.defaultLength = "1";
     t.infoCaption = "Info";

@@ -13,6 +13,7 @@ TemplateDescription FrmRhombiCube::Description() {
     TemplateDescription t;
     t.name = "frmRhombiCube";
     t.caption = "RhombusCube Layout Printing";
+    t.sheetTitle = "Rhombus Cube";
     t.backColor = RGB(0, 192, 192);
     t.defaultLength = "1";
     t.infoCaption = "&Info";

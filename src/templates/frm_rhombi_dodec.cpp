@@ -8,6 +8,7 @@ TemplateDescription FrmRhombiDodec::Description() {
     TemplateDescription t;
     t.name = "frmRhombiDodec";
     t.caption = "Rhombus Dodecahedron Template";
+    t.sheetTitle = "Rhombus Dodecahedron";
     t.backColor = RGB(0, 192, 192);
     t.defaultLength = "1.45";
     t.infoCaption = "&Info";

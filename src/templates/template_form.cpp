@@ -50,6 +50,10 @@ TemplateForm::TemplateForm(FormSet& app, const TemplateDescription& description)
         on(kFormEvents, Event::QueryUnload, [this](const EventArgs&) { Form_QueryUnload(); });
 }
 
+std::string TemplateForm::sheetName() const {
+    return description_.sheetTitle + " " + Trim(txtLeng.Text()) + " in";
+}
+
 bool TemplateForm::InRange(Double v) const {
     if (!(v > 0)) return false;
     return description_.rangeTopIncluded ? v <= description_.rangeTop : v < description_.rangeTop;

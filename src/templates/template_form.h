@@ -56,6 +56,8 @@ private:
 struct TemplateDescription {
     std::string name;
     std::string caption;
+    // A printed sheet's name before its side length: "Half Cube".
+    std::string sheetTitle;
     int clientWidth = 9405;
     int clientHeight = 8400;
     long backColor = 0;
@@ -91,6 +93,9 @@ public:
     void mnuInfo_Click();
     void cmdExit_Click();
     void Form_QueryUnload();
+
+    // "Half Cube 2 in": the side length as typed.
+    std::string sheetName() const override;
 
     // Whether txtLeng_Change redraws for the value v.
     bool InRange(Double v) const;
