@@ -14,7 +14,7 @@ PACKAGES := cmake make g++ pkg-config qt6-base-dev libgl-dev libgtest-dev \
 
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test bench install package fuzz asan pictures clean
+.PHONY: all deps configure build run test bench install package fuzz asan pictures soak clean
 
 all: build
 
@@ -81,6 +81,14 @@ pictures: build
 	  { $(SUDO) apt-get update -qq && DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq xvfb xauth; }
 	cmake --build $(BUILD_DIR) -j $(JOBS) --target gridpages_shots
 	tools/make_pictures.sh $(BUILD_DIR) docs/pictures
+
+# Explode It running in the window at a 1 ms interval for SOAK_MINUTES,
+# its resident memory printed once a minute: flat after the first minute,
+# or a leak.
+SOAK_MINUTES ?= 10
+soak: build
+	cmake --build $(BUILD_DIR) -j $(JOBS) --target gridpages_soak
+	QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/gridpages_soak $(SOAK_MINUTES) 1
 
 PREFIX ?= /usr/local
 
