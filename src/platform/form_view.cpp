@@ -1,5 +1,6 @@
 #include "platform/form_view.h"
 
+#include <QAbstractButton>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -178,6 +179,10 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FormView::keyPressEvent(QKeyEvent* event) {
+    // A form with a KeyDown of its own keeps every key, Escape too.
+    if (exitOnEscape_ && event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier &&
+        !event->isAutoRepeat() && !form_.handles(kFormEvents, Event::KeyDown) && clickExit())
+        return;
     // Only keys that reach the form itself, not those a control holds.
     QWidget* f = focusWidget();
     if (f == nullptr || f == this || f == client_) {
@@ -188,6 +193,14 @@ void FormView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QDialog::keyPressEvent(event);
+}
+
+bool FormView::clickExit() {
+    Control* exit = form_.find("cmdExit");
+    auto* button = qobject_cast<QAbstractButton*>(widgets_.value(exit));
+    if (!button || !button->isVisible() || !button->isEnabled()) return false;
+    button->click();
+    return true;
 }
 
 void FormView::closeEvent(QCloseEvent* event) {

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "platform/focus_ring.h"
 #include "platform/form_view.h"
 #include "platform/qt_drawing.h"
 #include "platform/wrap_button.h"
@@ -81,7 +82,7 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
         break;
     }
     case ControlKind::CheckBox: {
-        auto* b = new QCheckBox(qs(d.caption), parent);
+        auto* b = new RingedBox<QCheckBox>(qs(d.caption), parent);
         b->setChecked(d.value != 0);
         connect(b, &QCheckBox::clicked, this, [this, &c](bool on) {
             static_cast<CheckBox&>(c).setValue(on ? 1 : 0);
@@ -91,7 +92,7 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
         break;
     }
     case ControlKind::Option: {
-        auto* b = new QRadioButton(qs(d.caption), parent);
+        auto* b = new RingedBox<QRadioButton>(qs(d.caption), parent);
         b->setChecked(d.value != 0);
         connect(b, &QRadioButton::clicked, this, [this, &c] {
             static_cast<OptionButton&>(c).select();

@@ -1,9 +1,21 @@
 #include "platform/wrap_button.h"
 
+#include <QKeyEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
+#include "platform/focus_ring.h"
+
 namespace gp {
+
+namespace {
+// Return, or Enter on the keypad, with no other modifier held: Ctrl+Return
+// and the like stay free for whatever else may want them.
+bool isClickKey(const QKeyEvent* e) {
+    const auto mods = e->modifiers() & ~Qt::KeypadModifier;
+    return (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && mods == Qt::NoModifier;
+}
+} // namespace
 
 void WrapButton::paintEvent(QPaintEvent*) {
     QStylePainter p(this);
@@ -11,10 +23,50 @@ void WrapButton::paintEvent(QPaintEvent*) {
     initStyleOption(&option);
     const QString caption = option.text;
     option.text.clear();
+    // The ring below replaces the style's own focus mark.
+    const bool focused = option.state & QStyle::State_HasFocus;
+    option.state &= ~QStyle::State_HasFocus;
     p.drawControl(QStyle::CE_PushButton, option);
     const QRect area = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
     p.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
     p.drawText(area, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, caption);
+    if (focused) drawFocusRing(p, rect().adjusted(1, 1, -1, -1), palette().color(QPalette::Button));
+}
+
+// As with Space, the button goes down on the press and clicks on the
+// release, once however long the key is held.
+void WrapButton::keyPressEvent(QKeyEvent* event) {
+    if (!isClickKey(event)) {
+        QPushButton::keyPressEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat() && isEnabled()) {
+        returnDown_ = true;
+        setDown(true);
+    }
+    event->accept();
+}
+
+void WrapButton::keyReleaseEvent(QKeyEvent* event) {
+    if (!isClickKey(event)) {
+        QPushButton::keyReleaseEvent(event);
+        return;
+    }
+    event->accept();
+    if (event->isAutoRepeat() || !returnDown_) return;
+    returnDown_ = false;
+    setDown(false);
+    click();
+}
+
+void WrapButton::focusOutEvent(QFocusEvent* event) {
+    // Focus taken away while the key is down cancels the click, as it does
+    // for Space.
+    if (returnDown_) {
+        returnDown_ = false;
+        setDown(false);
+    }
+    QPushButton::focusOutEvent(event);
 }
 
 } // namespace gp

@@ -1,7 +1,9 @@
 #pragma once
 // A push button whose caption wraps onto as many lines as its width needs,
 // centred, with its access key underlined: the menu's long captions
-// ("Multiplication Table and Squares") must fit their buttons.
+// ("Multiplication Table and Squares") must fit their buttons. Return and
+// Enter click it as Space does, and its focus shows as a ring that stands
+// out on its face.
 
 #include <QPushButton>
 
@@ -13,6 +15,13 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    // Return or Enter is held down on this button.
+    bool returnDown_ = false;
 };
 
 } // namespace gp
