@@ -82,6 +82,8 @@ void FormView::build() {
     layout->setSizeConstraint(QLayout::SetFixedSize);
     if (menuBar_) layout->setMenuBar(menuBar_);
     client_ = new Client(*this);
+    client_->setAccessibleName("Canvas");
+    describeCanvas();
     client_->setFixedSize(w, h);
     client_->setAutoFillBackground(false);
     layout->addWidget(client_);
@@ -203,6 +205,13 @@ bool FormView::clickExit() {
     return true;
 }
 
+void FormView::describeCanvas() {
+    // An unloaded form is gone: nothing left to describe.
+    if (detached_ || !client_) return;
+    const QString now = qs(form_.canvasDescription());
+    if (client_->accessibleDescription() != now) client_->setAccessibleDescription(now);
+}
+
 void FormView::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (detached_) return;
@@ -227,6 +236,7 @@ void FormView::controlChanged(Control& control, ControlProperty property) {
             const QString t = qs(static_cast<TextBox&>(control).Text());
             if (e->text() != t) e->setText(t);
         }
+        describeCanvas();
         break;
     case ControlProperty::Caption:
         if (auto* l = qobject_cast<QLabel*>(w)) l->setText(qs(static_cast<Label&>(control).Caption()));

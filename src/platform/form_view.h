@@ -65,6 +65,8 @@ private:
     QPoint toPixels(int twipsX, int twipsY) const;
     void syncTimer(TimerControl& t);
     void canvasMouse(QMouseEvent* e, Event event);
+    // Tells a screen reader what the canvas shows now.
+    void describeCanvas();
     bool clickExit();
 
     FormSet& app_;

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "platform/accessible_names.h"
 #include "platform/focus_ring.h"
 #include "platform/form_view.h"
 #include "platform/qt_drawing.h"
@@ -56,7 +57,9 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
         connect(e, &QLineEdit::textEdited, this, [this, &c](const QString& t) {
             app_.guarded(form_, [&] { static_cast<TextBox&>(c).userEdit(t.toStdString()); });
             refreshCanvas();
+            describeCanvas();
         });
+        e->setAccessibleName(accessibleNameOf(form_.design(), d));
         e->installEventFilter(this);
         w = e;
         break;
