@@ -15,7 +15,24 @@ bool isClickKey(const QKeyEvent* e) {
     const auto mods = e->modifiers() & ~Qt::KeypadModifier;
     return (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) && mods == Qt::NoModifier;
 }
+
+constexpr int kCaptionFlags = Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
 } // namespace
+
+// The button keeps its design size; where a face draws wider or taller than
+// the one the design was made with (another font standing in for Arial, a
+// fractional scale), the caption takes a smaller size instead of running
+// over the edge.
+QFont captionFont(const QFont& font, const QRect& area, const QString& caption) {
+    constexpr double kSmallest = 5.0, kStep = 0.5;
+    QFont f = font;
+    while (f.pointSizeF() - kStep >= kSmallest) {
+        const QRect need = QFontMetrics(f).boundingRect(area, kCaptionFlags, caption);
+        if (need.width() <= area.width() && need.height() <= area.height()) break;
+        f.setPointSizeF(f.pointSizeF() - kStep);
+    }
+    return f;
+}
 
 void WrapButton::paintEvent(QPaintEvent*) {
     QStylePainter p(this);
@@ -29,7 +46,8 @@ void WrapButton::paintEvent(QPaintEvent*) {
     p.drawControl(QStyle::CE_PushButton, option);
     const QRect area = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
     p.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
-    p.drawText(area, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, caption);
+    p.setFont(captionFont(font(), area, caption));
+    p.drawText(area, kCaptionFlags, caption);
     if (focused) drawFocusRing(p, rect().adjusted(1, 1, -1, -1), palette().color(QPalette::Button));
 }
 

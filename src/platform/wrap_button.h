@@ -5,9 +5,14 @@
 // Enter click it as Space does, and its focus shows as a ring that stands
 // out on its face.
 
+#include <QFont>
 #include <QPushButton>
 
 namespace gp {
+
+// `font`, or the largest size below it (down to 5 points) at which `caption`
+// fits `area` wrapped as a button draws it.
+QFont captionFont(const QFont& font, const QRect& area, const QString& caption);
 
 class WrapButton : public QPushButton {
 public:

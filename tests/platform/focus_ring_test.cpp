@@ -106,3 +106,22 @@ TEST(FocusRing, SurroundsAFocusedCheckBox) {
         EXPECT_NE(after.pixelColor(at), before.pixelColor(at)) << at.x() << "," << at.y();
     }
 }
+
+// A caption that does not fit its button at the design's font takes a
+// smaller one; one that fits keeps its own.
+TEST(ButtonCaption, ShrinksOnlyWhenItDoesNotFit) {
+    QFont arial("Arial");
+    arial.setPointSizeF(12);
+    arial.setBold(true);
+    const QRect wide(0, 0, 300, 60), narrow(0, 0, 90, 40);
+    EXPECT_EQ(captionFont(arial, wide, "Triangles").pointSizeF(), 12.0);
+    const QFont smaller = captionFont(arial, narrow, "Multiplication Table and Squares");
+    EXPECT_LT(smaller.pointSizeF(), 12.0);
+    EXPECT_GE(smaller.pointSizeF(), 5.0);
+    const int flags = Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
+    const QRect need = QFontMetrics(smaller).boundingRect(narrow, flags, "Multiplication Table and Squares");
+    EXPECT_LE(need.height(), narrow.height());
+    EXPECT_LE(need.width(), narrow.width());
+    // A box too small for any size stops at the smallest instead of looping.
+    EXPECT_EQ(captionFont(arial, QRect(0, 0, 4, 4), "Plot Points").pointSizeF(), 5.0);
+}
