@@ -14,9 +14,9 @@
 
 #include "platform/accessible_names.h"
 #include "platform/focus_ring.h"
+#include "platform/wrap_button.h"
 #include "platform/form_view.h"
 #include "platform/qt_drawing.h"
-#include "platform/wrap_button.h"
 #include "shell/form_set.h"
 
 namespace gp {
@@ -113,6 +113,8 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
     }
     w->setGeometry(QRect(toPixels(d.left, d.top), QSize(pixelsOf(d.width), pixelsOf(d.height))));
     if (d.font) w->setFont(toQFont(*d.font));
+    if (d.kind == ControlKind::CheckBox || d.kind == ControlKind::Option)
+        w->setFont(boxCaptionFont(*static_cast<QAbstractButton*>(w), d.kind == ControlKind::Option));
     setColours(w, d);
     if (!d.toolTip.empty()) w->setToolTip(qs(d.toolTip));
     w->setVisible(d.visible);

@@ -1,6 +1,8 @@
 #include "platform/wrap_button.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
+#include <QStyle>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
@@ -19,15 +21,27 @@ bool isClickKey(const QKeyEvent* e) {
 constexpr int kCaptionFlags = Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
 } // namespace
 
+QFont boxCaptionFont(const QAbstractButton& box, bool isOption) {
+    const QStyle* style = box.style();
+    const int mark = style->pixelMetric(isOption ? QStyle::PM_ExclusiveIndicatorWidth : QStyle::PM_IndicatorWidth,
+                                        nullptr, &box) +
+                     style->pixelMetric(isOption ? QStyle::PM_RadioButtonLabelSpacing : QStyle::PM_CheckBoxLabelSpacing,
+                                        nullptr, &box);
+    const QString caption = box.text();
+    const QRect area(0, 0, box.width() - mark - 2, box.height());
+    return captionFont(box.font(), area, caption, false);
+}
+
 // The button keeps its design size; where a face draws wider or taller than
 // the one the design was made with (another font standing in for Arial, a
 // fractional scale), the caption takes a smaller size instead of running
 // over the edge.
-QFont captionFont(const QFont& font, const QRect& area, const QString& caption) {
+QFont captionFont(const QFont& font, const QRect& area, const QString& caption, bool wrap) {
     constexpr double kSmallest = 5.0, kStep = 0.5;
+    const int flags = wrap ? kCaptionFlags : int(Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic);
     QFont f = font;
     while (f.pointSizeF() - kStep >= kSmallest) {
-        const QRect need = QFontMetrics(f).boundingRect(area, kCaptionFlags, caption);
+        const QRect need = QFontMetrics(f).boundingRect(area, flags, caption);
         if (need.width() <= area.width() && need.height() <= area.height()) break;
         f.setPointSizeF(f.pointSizeF() - kStep);
     }

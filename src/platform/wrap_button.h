@@ -8,11 +8,16 @@
 #include <QFont>
 #include <QPushButton>
 
+class QAbstractButton;
+
 namespace gp {
 
 // `font`, or the largest size below it (down to 5 points) at which `caption`
-// fits `area` wrapped as a button draws it.
-QFont captionFont(const QFont& font, const QRect& area, const QString& caption);
+// fits `area` wrapped as a button draws it (or on one line, without wrap).
+QFont captionFont(const QFont& font, const QRect& area, const QString& caption, bool wrap = true);
+// The same for the one-line caption of a check box or option button, which
+// has its width less the box or circle before it.
+QFont boxCaptionFont(const QAbstractButton& box, bool isOption);
 
 class WrapButton : public QPushButton {
 public:

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QRadioButton>
+#include <QStyle>
 #include <QImage>
 #include <QLineEdit>
 #include <QWidget>
@@ -124,4 +126,21 @@ TEST(ButtonCaption, ShrinksOnlyWhenItDoesNotFit) {
     EXPECT_LE(need.width(), narrow.width());
     // A box too small for any size stops at the smallest instead of looping.
     EXPECT_EQ(captionFont(arial, QRect(0, 0, 4, 4), "Plot Points").pointSizeF(), 5.0);
+}
+
+TEST(ButtonCaption, AnOptionCaptionTooWideForItsBoxTakesASmallerFont) {
+    QWidget window;
+    QFont bold("Arial");
+    bold.setPointSizeF(12);
+    bold.setBold(true);
+    QRadioButton fits("No Color", &window), tight("Random Color", &window);
+    for (QRadioButton* b : {&fits, &tight}) b->setFont(bold);
+    fits.setGeometry(0, 0, 129, 25);
+    tight.setGeometry(0, 30, 90, 25);
+    EXPECT_EQ(boxCaptionFont(fits, true).pointSizeF(), 12.0);
+    const QFont smaller = boxCaptionFont(tight, true);
+    EXPECT_LT(smaller.pointSizeF(), 12.0);
+    const int mark = tight.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &tight) +
+                     tight.style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, &tight);
+    EXPECT_LE(QFontMetrics(smaller).horizontalAdvance("Random Color") + mark, tight.width());
 }
