@@ -39,10 +39,19 @@ for entry in "${sheets[@]}"; do
   pdftoppm -r 40 -png -singlefile "$work/pdf/sheet-0001.pdf" "$out/sheet-$name"
 done
 
-# The forms, as the windowed program shows them.
-if command -v xvfb-run >/dev/null; then
-  xvfb-run -a -s "-screen 0 1400x1100x24" "$build/gridpages_shots" "$out"
-else
-  QT_QPA_PLATFORM=offscreen "$build/gridpages_shots" "$out"
-fi
-echo "pictures: $(ls "$out" | wc -l) files in $out"
+# The forms, as the windowed program shows them: at 100% into the guide, and
+# at 200% into the build folder to check that every control stays legible;
+# of those, the focus ring and Explode It go into the guide too.
+shots() {
+  if command -v xvfb-run >/dev/null; then
+    xvfb-run -a -s "-screen 0 2800x2200x24" "$build/gridpages_shots" "$1"
+  else
+    QT_QPA_PLATFORM=offscreen "$build/gridpages_shots" "$1"
+  fi
+}
+shots "$out"
+rm -rf "$build/pictures-200"
+QT_SCALE_FACTOR=2 shots "$build/pictures-200"
+cp "$build/pictures-200/focus-ring.png" "$out/focus-ring-200.png"
+cp "$build/pictures-200/form-explode-it.png" "$out/form-explode-it-200.png"
+echo "pictures: $(ls "$out" | wc -l) files in $out, the forms at 200% in $build/pictures-200"

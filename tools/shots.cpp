@@ -1,13 +1,17 @@
 // gridpages_shots DIR: opens the real windows of the program one by one, as
 // a user would, and saves a picture of each form with what it shows, for the
-// guide. Run it under Xvfb (or QT_QPA_PLATFORM=offscreen).
+// guide, and one of the keyboard focus on a yellow menu button. Run it under
+// Xvfb (or QT_QPA_PLATFORM=offscreen); QT_SCALE_FACTOR=2 gives the pictures
+// at 200%.
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QImage>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QElapsedTimer>
 #include <QTimer>
@@ -19,14 +23,37 @@
 
 namespace {
 
-enum class Act { Press, Menu, Shoot, Wait };
+enum class Act { Press, Menu, Shoot, ShootFocus, Key, Wait };
 
 struct Step {
     Act act;
     QString window;  // title of the window the step acts on
     QString arg;     // caption, menu entry or file name
-    int ms = 0;      // Wait
+    int ms = 0;      // Wait, or the key of Key
 };
+
+// The smallest PNG that keeps every pixel: pictures of forms are a few flat
+// colours.
+bool savePicture(const QImage& image, const QString& file) { return image.save(file, "PNG", 0); }
+
+// A key pressed and released where the window has its focus, as a user
+// types it.
+void typeKey(QWidget* window, int key) {
+    QWidget* target = window->focusWidget() ? window->focusWidget() : window;
+    const auto mods = key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier;
+    QKeyEvent press(QEvent::KeyPress, key, mods);
+    QKeyEvent release(QEvent::KeyRelease, key, mods);
+    QApplication::sendEvent(target, &press);
+    QApplication::sendEvent(target, &release);
+}
+
+// The focused control with a margin of the form around it.
+QImage focusPicture(QWidget* window) {
+    QWidget* f = window->focusWidget();
+    if (!f) return QImage();
+    const QRect around(f->mapTo(window, QPoint(0, 0)), f->size());
+    return window->grab(around.adjusted(-12, -12, 12, 12)).toImage();
+}
 
 QWidget* shownWindow(const QString& title) {
     for (QWidget* w : QApplication::topLevelWidgets())
@@ -46,7 +73,10 @@ std::vector<Step> plan(const QString& dir) {
         s.push_back({Act::Press, title, "Exit"});
         return s;
     };
-    std::vector<Step> steps = {{Act::Shoot, menu, dir + "/menu.png"}};
+    std::vector<Step> steps = {{Act::Shoot, menu, dir + "/menu.png"},
+                               {Act::Key, menu, "", Qt::Key_Tab},
+                               {Act::ShootFocus, menu, dir + "/focus-ring.png"},
+                               {Act::Key, menu, "", Qt::Key_Backtab}};
     auto add = [&](std::vector<Step> s) { steps.insert(steps.end(), s.begin(), s.end()); };
     add(shootForm("Triangles", "Triangle grids", "form-triangles.png"));
     add(shootForm("Multiplication Table and Squares", "Squares", "form-squares.png"));
@@ -108,7 +138,15 @@ int main(int argc, char** argv) {
             ++next;
             return;
         case Act::Shoot:
-            if (!w->grab().save(s.arg)) ++failures;
+            if (!savePicture(w->grab().toImage(), s.arg)) ++failures;
+            ++next;
+            return;
+        case Act::ShootFocus:
+            if (!savePicture(focusPicture(w), s.arg)) ++failures;
+            ++next;
+            return;
+        case Act::Key:
+            typeKey(w, s.ms);
             ++next;
             return;
         case Act::Menu:

@@ -16,11 +16,15 @@ const long kLightRed = RGB(255, 128, 128);
 const long kLightBlue = RGB(128, 255, 255);
 const long kRed = RGB(255, 0, 0);
 
+// Element i shows point i + 1 of the table; its row head says only "x" or
+// "y", so each box is called by its point.
 void addPointBoxes(std::vector<ControlDesign>& controls) {
     for (int i = 0; i <= 10; ++i)
-        controls.push_back(TextBoxDesign("txtX", "2").element(i).at(1920 + 480 * i, 720, 375, 285));
+        controls.push_back(TextBoxDesign("txtX", "2").element(i).at(1920 + 480 * i, 720, 375, 285)
+                               .spoken("x of point " + std::to_string(i + 1)));
     for (int i = 0; i <= 10; ++i)
-        controls.push_back(TextBoxDesign("txtY", "5").element(i).at(1920 + 480 * i, 1080, 375, 285));
+        controls.push_back(TextBoxDesign("txtY", "5").element(i).at(1920 + 480 * i, 1080, 375, 285)
+                               .spoken("y of point " + std::to_string(i + 1)));
 }
 
 void addAxes(std::vector<ControlDesign>& controls) {
@@ -75,10 +79,14 @@ FormDesign FrmExplodeIt::Design() {
     c.push_back(LabelDesign("Label1", "Multiplier").at(9000, 0, 1335, 255)
                     .tip("This is a matrix multiplier which will change the shape.  "
                          "The Steps number is the only part used."));
-    c.push_back(TextBoxDesign("txtr11", "1").at(9120, 360, 495, 375));
-    c.push_back(TextBoxDesign("txtr12", "1").at(9720, 360, 495, 375));
-    c.push_back(TextBoxDesign("txtr21", "0").at(9120, 840, 495, 375));
-    c.push_back(TextBoxDesign("txtr22", "1").at(9720, 840, 495, 375));
+    c.push_back(TextBoxDesign("txtr11", "1").at(9120, 360, 495, 375)
+                    .spoken("Multiplier, row 1, column 1"));
+    c.push_back(TextBoxDesign("txtr12", "1").at(9720, 360, 495, 375)
+                    .spoken("Multiplier, row 1, column 2"));
+    c.push_back(TextBoxDesign("txtr21", "0").at(9120, 840, 495, 375)
+                    .spoken("Multiplier, row 2, column 1"));
+    c.push_back(TextBoxDesign("txtr22", "1").at(9720, 840, 495, 375)
+                    .spoken("Multiplier, row 2, column 2"));
     c.push_back(ButtonDesign("cmdBegin", "Begin").at(10560, 0, 855, 495).back(kCyan));
     c.push_back(ButtonDesign("cmdQuit", "Quit").at(10560, 720, 855, 495).back(kLightRed));
     c.push_back(ButtonDesign("cmdClear", "New Graph").at(11520, 120, 855, 735).back(kLightBlue)

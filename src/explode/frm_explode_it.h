@@ -34,6 +34,10 @@ public:
     void mnuSquares_Click();
     void mnuTriangles_Click();
 
+    std::string canvasDescription() const override {
+        return "Graph of the shape on x and y axes, one unit a tick; after New Graph each click adds a point";
+    }
+
     // Read-only views for tests and benchmarks.
     int pointCount() const { return PointCount; }
     int clickCount() const { return ClickCount; }

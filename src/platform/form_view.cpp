@@ -1,5 +1,6 @@
 #include "platform/form_view.h"
 
+#include <QAbstractButton>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -81,6 +82,8 @@ void FormView::build() {
     layout->setSizeConstraint(QLayout::SetFixedSize);
     if (menuBar_) layout->setMenuBar(menuBar_);
     client_ = new Client(*this);
+    client_->setAccessibleName("Canvas");
+    describeCanvas();
     client_->setFixedSize(w, h);
     client_->setAutoFillBackground(false);
     layout->addWidget(client_);
@@ -178,6 +181,10 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FormView::keyPressEvent(QKeyEvent* event) {
+    // A form with a KeyDown of its own keeps every key, Escape too.
+    if (exitOnEscape_ && event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier &&
+        !event->isAutoRepeat() && !form_.handles(kFormEvents, Event::KeyDown) && clickExit())
+        return;
     // Only keys that reach the form itself, not those a control holds.
     QWidget* f = focusWidget();
     if (f == nullptr || f == this || f == client_) {
@@ -188,6 +195,21 @@ void FormView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QDialog::keyPressEvent(event);
+}
+
+bool FormView::clickExit() {
+    Control* exit = form_.find("cmdExit");
+    auto* button = qobject_cast<QAbstractButton*>(widgets_.value(exit));
+    if (!button || !button->isVisible() || !button->isEnabled()) return false;
+    button->click();
+    return true;
+}
+
+void FormView::describeCanvas() {
+    // An unloaded form is gone: nothing left to describe.
+    if (detached_ || !client_) return;
+    const QString now = qs(form_.canvasDescription());
+    if (client_->accessibleDescription() != now) client_->setAccessibleDescription(now);
 }
 
 void FormView::closeEvent(QCloseEvent* event) {
@@ -214,6 +236,7 @@ void FormView::controlChanged(Control& control, ControlProperty property) {
             const QString t = qs(static_cast<TextBox&>(control).Text());
             if (e->text() != t) e->setText(t);
         }
+        describeCanvas();
         break;
     case ControlProperty::Caption:
         if (auto* l = qobject_cast<QLabel*>(w)) l->setText(qs(static_cast<Label&>(control).Caption()));

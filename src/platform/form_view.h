@@ -46,6 +46,9 @@ public:
     // A menu of the platform's own beside those of the design table; the
     // client area keeps its design size below the menu bar.
     void addMenu(QMenu* menu);
+    // Escape leaves the form as its Exit button does: on the page forms, not
+    // on the menu, whose Exit ends the program.
+    void setExitOnEscape(bool on) { exitOnEscape_ = on; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -62,6 +65,9 @@ private:
     QPoint toPixels(int twipsX, int twipsY) const;
     void syncTimer(TimerControl& t);
     void canvasMouse(QMouseEvent* e, Event event);
+    // Tells a screen reader what the canvas shows now.
+    void describeCanvas();
+    bool clickExit();
 
     FormSet& app_;
     Form& form_;
@@ -73,6 +79,7 @@ private:
     QHash<Control*, QTimer*> timers_;
     QEventLoop* loop_ = nullptr;
     bool detached_ = false;
+    bool exitOnEscape_ = false;
 };
 
 } // namespace gp

@@ -12,9 +12,11 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "platform/accessible_names.h"
+#include "platform/focus_ring.h"
+#include "platform/wrap_button.h"
 #include "platform/form_view.h"
 #include "platform/qt_drawing.h"
-#include "platform/wrap_button.h"
 #include "shell/form_set.h"
 
 namespace gp {
@@ -55,7 +57,9 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
         connect(e, &QLineEdit::textEdited, this, [this, &c](const QString& t) {
             app_.guarded(form_, [&] { static_cast<TextBox&>(c).userEdit(t.toStdString()); });
             refreshCanvas();
+            describeCanvas();
         });
+        e->setAccessibleName(accessibleNameOf(form_.design(), d));
         e->installEventFilter(this);
         w = e;
         break;
@@ -81,7 +85,7 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
         break;
     }
     case ControlKind::CheckBox: {
-        auto* b = new QCheckBox(qs(d.caption), parent);
+        auto* b = new RingedBox<QCheckBox>(qs(d.caption), parent);
         b->setChecked(d.value != 0);
         connect(b, &QCheckBox::clicked, this, [this, &c](bool on) {
             static_cast<CheckBox&>(c).setValue(on ? 1 : 0);
@@ -91,7 +95,7 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
         break;
     }
     case ControlKind::Option: {
-        auto* b = new QRadioButton(qs(d.caption), parent);
+        auto* b = new RingedBox<QRadioButton>(qs(d.caption), parent);
         b->setChecked(d.value != 0);
         connect(b, &QRadioButton::clicked, this, [this, &c] {
             static_cast<OptionButton&>(c).select();
@@ -109,6 +113,8 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
     }
     w->setGeometry(QRect(toPixels(d.left, d.top), QSize(pixelsOf(d.width), pixelsOf(d.height))));
     if (d.font) w->setFont(toQFont(*d.font));
+    if (d.kind == ControlKind::CheckBox || d.kind == ControlKind::Option)
+        w->setFont(boxCaptionFont(*static_cast<QAbstractButton*>(w), d.kind == ControlKind::Option));
     setColours(w, d);
     if (!d.toolTip.empty()) w->setToolTip(qs(d.toolTip));
     w->setVisible(d.visible);

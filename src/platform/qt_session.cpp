@@ -72,6 +72,7 @@ void QtDialogs::formMissing(const std::string& formName) {
 void QtHost::formLoaded(Form& form) {
     form.Me().setTextMeasurer(&measurer_);
     auto* view = new FormView(*app_, form);
+    view->setExitOnEscape(form.name() != startForm_);
     views_[&form] = view;
     if (startHook_ && form.name() == startForm_) startHook_(*view);
 }
@@ -89,6 +90,7 @@ void QtHost::formHidden(Form& form) {
     if (FormView* view = views_.value(&form)) {
         view->hide();
         view->quitModal();
+        activateOther(view);
     }
 }
 
@@ -99,6 +101,17 @@ void QtHost::formUnloading(Form& form) {
     view->quitModal();
     view->detach();
     view->deleteLater();
+    activateOther(view);
+}
+
+// The keys go back to the form underneath (the menu) when a form goes away,
+// also where no window manager hands the focus on by itself.
+void QtHost::activateOther(FormView* gone) {
+    for (FormView* v : views_)
+        if (v && v != gone && v->isVisible()) {
+            v->activateWindow();
+            return;
+        }
 }
 
 void QtHost::runModal(Form& form) {

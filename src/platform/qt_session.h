@@ -41,6 +41,8 @@ public:
     void endProgram() override;
 
 private:
+    void activateOther(FormView* gone);
+
     FormSet* app_ = nullptr;
     QHash<Form*, QPointer<FormView>> views_;
     QtTextMeasurer measurer_;

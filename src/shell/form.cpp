@@ -78,6 +78,8 @@ void Form::raise(const std::string& control, Event event, const EventArgs& args)
 
 std::string Form::sheetName() const { return design_.caption; }
 
+std::string Form::canvasDescription() const { return design_.caption; }
+
 void Form::Hide() { app_.hide(*this); }
 void Form::UnloadMe() { app_.unload(*this); }
 void Form::End() { app_.end(); }

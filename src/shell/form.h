@@ -83,6 +83,10 @@ public:
     // queued: "Half Cube 2 in - 1.pdf", a job named "Triangles 1 in". The
     // caption unless the form knows a better name.
     virtual std::string sheetName() const;
+    // What the form's canvas shows, told to a screen reader: "Preview of
+    // the half cube template, 1 inch sides". The caption unless the form
+    // can say more.
+    virtual std::string canvasDescription() const;
 
     bool visible() const { return visible_; }
     bool unloaded() const { return unloaded_; }

@@ -36,6 +36,9 @@ struct ControlDesign {
     std::string container;    // frame of an option button, parent of a menu entry
     bool separator = false;   // a menu separator line
     bool bold = false;
+    // What a screen reader calls a text box where no label of its own
+    // stands beside or above it (one heading over a row of boxes).
+    std::string accessibleName;
 
     ControlDesign& at(int l, int t, int w, int h) { left = l; top = t; width = w; height = h; return *this; }
     ControlDesign& back(long colour) { backColor = colour; return *this; }
@@ -50,6 +53,7 @@ struct ControlDesign {
     ControlDesign& selected() { value = 1; return *this; }
     ControlDesign& ticked() { value = 1; return *this; }
     ControlDesign& element(int i) { index = i; return *this; }
+    ControlDesign& spoken(const std::string& name) { accessibleName = name; return *this; }
 };
 
 ControlDesign TextBoxDesign(const std::string& name, const std::string& text);

@@ -47,6 +47,10 @@ public:
     void txtAngle_LostFocus();
     void cmdExit_Click();
 
+    std::string canvasDescription() const override {
+        return "Stick curves: strings between the marks on the two sides of an angle, drawn by Draw It";
+    }
+
     // The form-level fields, for a look from outside (tests).
     const StickVertex& vertex() const { return start_; }
     Double stickAngle() const { return StickAngle; }

@@ -42,8 +42,8 @@ FormDesign FrmString2::Design() {
             .at(60, 3900, 1455, 495)
             .back(kTransparent)
             .tip("Click here to use the point you enter."),
-        TextBoxDesign("txtX", "100").at(120, 4440, 615, 375),
-        TextBoxDesign("txtY", "100").at(840, 4440, 615, 375),
+        TextBoxDesign("txtX", "100").at(120, 4440, 615, 375).spoken("Set Position X"),
+        TextBoxDesign("txtY", "100").at(840, 4440, 615, 375).spoken("Set Position Y"),
         ShapeDesign("ShpCurrentPos").at(0, 5160, 1575, 855).back(paleGreen),
         LabelDesign("lblCurrentPosition", "Current Position").at(60, 5220, 1455, 255).back(kTransparent),
         LabelDesign("lblXY", "(100,100)").at(60, 5580, 1455, 315).back(kTransparent),

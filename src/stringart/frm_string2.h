@@ -38,6 +38,10 @@ public:
     void Lin(Integer a, Integer b, Integer c, Integer d);
     void Colorize();
 
+    std::string canvasDescription() const override {
+        return "String art plotting area: each click sets a point, and from the third point on strings join them";
+    }
+
     // Print (string2_print.cpp)
     void cmdPrintIt_Click();
     void PrintLin(Integer a, Integer b, Integer c, Integer d);

@@ -1,5 +1,7 @@
 #include "templates/template_form.h"
 
+#include <cctype>
+
 #include "shell/form_set.h"
 
 namespace gp {
@@ -52,6 +54,17 @@ TemplateForm::TemplateForm(FormSet& app, const TemplateDescription& description)
 
 std::string TemplateForm::sheetName() const {
     return description_.sheetTitle + " " + Trim(txtLeng.Text()) + " in";
+}
+
+std::string TemplateForm::canvasDescription() const {
+    std::string figure = description_.sheetTitle;
+    for (char& c : figure) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    const std::string preview = "Preview of the " + figure + " template";
+    const std::string side = Trim(txtLeng.Text());
+    // An empty box keeps the last preview; a side out of range clears it.
+    if (side.empty()) return preview;
+    if (!InRange(Val(side))) return preview + ", empty: the side length is out of range";
+    return preview + ", " + side + " inch sides";
 }
 
 bool TemplateForm::InRange(Double v) const {

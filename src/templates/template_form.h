@@ -96,6 +96,8 @@ public:
 
     // "Half Cube 2 in": the side length as typed.
     std::string sheetName() const override;
+    // "Preview of the half cube template, 2 inch sides", as typed.
+    std::string canvasDescription() const override;
 
     // Whether txtLeng_Change redraws for the value v.
     bool InRange(Double v) const;
