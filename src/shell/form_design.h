@@ -35,7 +35,6 @@ struct ControlDesign {
     int interval = 0;         // timer, in thousandths of a second
     std::string container;    // frame of an option button, parent of a menu entry
     bool separator = false;   // a menu separator line
-    bool bold = false;
 
     ControlDesign& at(int l, int t, int w, int h) { left = l; top = t; width = w; height = h; return *this; }
     ControlDesign& back(long colour) { backColor = colour; return *this; }
@@ -48,7 +47,6 @@ struct ControlDesign {
     ControlDesign& hidden() { visible = false; return *this; }
     ControlDesign& in(const std::string& parent) { container = parent; return *this; }
     ControlDesign& selected() { value = 1; return *this; }
-    ControlDesign& ticked() { value = 1; return *this; }
     ControlDesign& element(int i) { index = i; return *this; }
 };
 
