@@ -133,19 +133,17 @@ void FrmExplodeIt::PlotLoadedTable() {
         PlotIt(zero);
         return;
     }
-    const auto keptX = PtX, keptY = PtY;
+    const PointTable kept = Table;
     try {
         PlotIt(zero);
     } catch (const Fault&) {
-        PtX = keptX;
-        PtY = keptY;
+        Table = kept;
         throw;
     }
     // The matrix is still all zeros: the frame shows that product, but the
     // shape stays as loaded, so that the next Begin does not start from a
     // table wiped out to the origin.
-    PtX = keptX;
-    PtY = keptY;
+    Table = kept;
 }
 
 void FrmExplodeIt::ShowPoint(int i, Double x, Double y) {
@@ -177,11 +175,7 @@ void FrmExplodeIt::Form_Load() {
 }
 
 void FrmExplodeIt::Form_Activate() {
-    const SampleShape& runner = RunnerShape();
-    for (size_t j = 0; j < runner.size(); ++j) {
-        PtX[j + 1] = runner[j].x;
-        PtY[j + 1] = runner[j].y;
-    }
+    Table.load(RunnerShape());
     PointCount = 24;
     savedIsTable_ = false;
     for (int i = 1; i <= 11; ++i) ShowPoint(i, PtX[i], PtY[i]);
@@ -218,7 +212,7 @@ void FrmExplodeIt::cmdPlotPoints_Click() {
     RefuseZeroSteps("Nothing was plotted");
     const bool scalar = optScalar.Value();
     const std::string keptStart = txtStart.Text();
-    const auto keptX = PtX, keptY = PtY;
+    const PointTable kept = Table;
     // Scalar mode shows the shape at its plain size, whatever Start says.
     if (scalar) txtStart.setText("1");
     try {
@@ -226,18 +220,14 @@ void FrmExplodeIt::cmdPlotPoints_Click() {
         const Integer zero = 0;
         PlotIt(zero);
     } catch (const Fault&) {
-        PtX = keptX;
-        PtY = keptY;
+        Table = kept;
         if (scalar) txtStart.setText(keptStart);
         throw;
     }
     // Take back what a Multiplier frame did: from the shape of the last Begin
     // while that is the shape on show, else from the table as it stood.
-    for (int i = 1; i <= PointCount; ++i) {
-        PtX[i] = savedIsTable_ ? SavedX[i] : keptX[i];
-        PtY[i] = savedIsTable_ ? SavedY[i] : keptY[i];
-        if (i < 12) ShowPoint(i, PtX[i], PtY[i]);
-    }
+    Table.takePoints(savedIsTable_ ? Saved : kept, PointCount);
+    for (int i = 1; i <= PointCount && i < 12; ++i) ShowPoint(i, PtX[i], PtY[i]);
     if (scalar) txtStart.setText(keptStart);
 }
 
@@ -291,10 +281,7 @@ void FrmExplodeIt::cmdBegin_Click() {
         R22 = r22;
         matrixTaken_ = true;
     }
-    for (int i = 1; i <= PointCount; ++i) {
-        SavedX[i] = PtX[i];
-        SavedY[i] = PtY[i];
-    }
+    Saved.takePoints(Table, PointCount);
     savedIsTable_ = true;
     Timer1.setEnabled(true);
 }
@@ -324,12 +311,7 @@ void FrmExplodeIt::Timer1_Timer() {
         StepIndex = 0;
         Me().Cls();
         PrintCounter();
-        if (optMultiplier.Value()) {
-            for (int i = 1; i <= PointCount; ++i) {
-                PtX[i] = SavedX[i];
-                PtY[i] = SavedY[i];
-            }
-        }
+        if (optMultiplier.Value()) Table.takePoints(Saved, PointCount);
         PlotIt(StepIndex);
     } catch (const Fault&) {
         // What failed now would fail again at every tick: one message, and
@@ -347,20 +329,14 @@ void FrmExplodeIt::cmdQuit_Click() {
     // another table, the saved arrays hold nothing of the shape on show:
     // keep the table as it is then.
     if (!savedIsTable_) return;
-    for (int i = 1; i <= PointCount; ++i) {
-        PtX[i] = SavedX[i];
-        PtY[i] = SavedY[i];
-    }
+    Table.takePoints(Saved, PointCount);
 }
 
 // ---------------------------------------------------------------- samples
 
 void FrmExplodeIt::LoadSample(const SampleShape& shape) {
     Me().Cls();
-    for (size_t j = 0; j < shape.size(); ++j) {
-        PtX[j + 1] = shape[j].x;
-        PtY[j + 1] = shape[j].y;
-    }
+    Table.load(shape);
     PointCount = static_cast<int>(shape.size());
     savedIsTable_ = false;
     for (int i = 1; i <= 11; ++i) ShowPoint(i, PtX[i], PtY[i]);

@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 
+#include "explode/point_table.h"
 #include "explode/sample_shapes.h"
 #include "shell/form.h"
 
@@ -76,15 +77,18 @@ private:
     std::array<TextBox*, 11> txtX{};
     std::array<TextBox*, 11> txtY{};
 
-    std::array<Single, 201> PtX{}, PtY{};
-    std::array<Single, 201> SavedX{}, SavedY{};
+    PointTable Table;  // the shape on show
+    PointTable Saved;  // the shape of the last Begin
+    // The table's columns under the names the formulas use.
+    std::array<Single, PointTable::kLastPoint + 1>& PtX = Table.PtX;
+    std::array<Single, PointTable::kLastPoint + 1>& PtY = Table.PtY;
     Integer PointCount = 0;
     Integer ClickCount = 0;
     Integer StepIndex = 0;
     Integer StepCount = 0;
     Single StartValue = 0, EndValue = 0, StepSize = 0;
     Single R11 = 0, R12 = 0, R21 = 0, R22 = 0;
-    // True while SavedX/SavedY hold the table that is on show, that is after
+    // True while Saved holds the table that is on show, that is after
     // a Begin with no sample, clicks or opening loaded since. Plot Points and
     // Quit bring the table back from them only then.
     bool savedIsTable_ = false;

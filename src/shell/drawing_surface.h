@@ -115,7 +115,6 @@ public:
 
     void setFontName(const std::string& name) { font_.name = name; }
     void setFontSize(Single size) { font_.size = size; }
-    void setFontBold(bool bold) { font_.bold = bold; }
     void setFont(const FontSpec& font) { font_ = font; }
     const FontSpec& font() const { return font_; }
 

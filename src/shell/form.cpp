@@ -1,5 +1,7 @@
 #include "shell/form.h"
 
+#include <stdexcept>
+
 #include "shell/form_set.h"
 
 namespace gp {
@@ -19,6 +21,27 @@ std::unique_ptr<Control> makeControl(Form& form, const ControlDesign& d) {
     case ControlKind::Line: break;
     }
     return std::make_unique<PlainControl>(form, d);
+}
+
+std::string withArticle(const std::string& noun) {
+    return (noun.find_first_of("aeiou") == 0 ? "an " : "a ") + noun;
+}
+
+// A handler bound to a misspelt name or to an event that never comes would
+// simply never run; the form refuses it while it is being built.
+void checkBinding(const FormDesign& design, const std::string& control, Event event) {
+    const std::string what = design.name + " cannot bind " + control + "_" + eventName(event) + ": ";
+    if (control == kFormEvents) {
+        if (!raisedOnForm(event)) throw std::logic_error(what + "a form raises no " + eventName(event));
+        return;
+    }
+    for (const ControlDesign& d : design.controls) {
+        if (d.name != control) continue;
+        if (!raises(d.kind, event))
+            throw std::logic_error(what + withArticle(kindName(d.kind)) + " raises no " + eventName(event));
+        return;
+    }
+    throw std::logic_error(what + "it has no control " + control);
 }
 } // namespace
 
@@ -62,6 +85,7 @@ OptionButton& Form::option(const std::string& name) const { return typed<OptionB
 TimerControl& Form::timer(const std::string& name) const { return typed<TimerControl>(name, -1); }
 
 void Form::on(const std::string& control, Event event, Handler handler) {
+    checkBinding(design_, control, event);
     handlers_[{control, event}] = std::move(handler);
 }
 

@@ -13,14 +13,13 @@
 #include "shell/controls.h"
 #include "shell/drawing_surface.h"
 #include "shell/form_design.h"
+#include "shell/form_events.h"
 #include "shell/platform.h"
 
 namespace gp {
 
 class FormSet;
 class RandomSource;
-
-enum class Event { Click, Change, LostFocus, MouseDown, MouseMove, KeyDown, Timer, Load, Activate, QueryUnload };
 
 struct EventArgs {
     int index = -1;      // the element of a control array
@@ -52,6 +51,9 @@ public:
     const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
     using Handler = std::function<void(const EventArgs&)>;
+    // Binds control_event (every element of a control array at once). A
+    // control the design does not have, or an event its kind is never
+    // sent, throws std::logic_error naming the form, control and event.
     void on(const std::string& control, Event event, Handler handler);
     bool handles(const std::string& control, Event event) const;
     // Runs the handler now, inside whatever handler is running: what code

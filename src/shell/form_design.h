@@ -35,7 +35,6 @@ struct ControlDesign {
     int interval = 0;         // timer, in thousandths of a second
     std::string container;    // frame of an option button, parent of a menu entry
     bool separator = false;   // a menu separator line
-    bool bold = false;
     // What a screen reader calls a text box where no label of its own
     // stands beside or above it (one heading over a row of boxes).
     std::string accessibleName;
@@ -51,7 +50,6 @@ struct ControlDesign {
     ControlDesign& hidden() { visible = false; return *this; }
     ControlDesign& in(const std::string& parent) { container = parent; return *this; }
     ControlDesign& selected() { value = 1; return *this; }
-    ControlDesign& ticked() { value = 1; return *this; }
     ControlDesign& element(int i) { index = i; return *this; }
     ControlDesign& spoken(const std::string& name) { accessibleName = name; return *this; }
 };

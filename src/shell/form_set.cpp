@@ -19,6 +19,12 @@ void FormSet::registerForm(const std::string& name, Factory factory) {
     factories_[name] = std::move(factory);
 }
 
+std::vector<std::string> FormSet::formNames() const {
+    std::vector<std::string> out;
+    for (const auto& [name, factory] : factories_) out.push_back(name);
+    return out;
+}
+
 Form* FormSet::loaded(const std::string& name) const {
     auto it = instances_.find(name);
     return it == instances_.end() ? nullptr : it->second.get();

@@ -29,6 +29,7 @@ public:
 
     void registerForm(const std::string& name, Factory factory);
     bool knows(const std::string& name) const { return factories_.count(name) != 0; }
+    std::vector<std::string> formNames() const;
 
     // The loaded instance, or nullptr.
     Form* loaded(const std::string& name) const;

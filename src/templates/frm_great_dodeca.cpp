@@ -45,17 +45,14 @@ FrmGreatDodeca::FrmGreatDodeca(FormSet& app) : TemplateForm(app, Description()) 
 
 void FrmGreatDodeca::DrawFigure(DrawingSurface& S, Integer side, bool preview) {
     const GreatDodecaParts p = GreatDodecaPartsFor(side);
-    const Integer surfaceW = CInt(S.ScaleWidth());
-    const Integer surfaceH = CInt(S.ScaleHeight());
-    const int rowStart = preview ? kPreviewLeft : 0;
-    // A dry run of the loops first. The loops test at their end, so a side
-    // below 2 (row step 0) would never end and a tiny one would need
-    // millions of copies; tileY of the second row is the first sum to
-    // overflow as the side grows. In each case nothing is drawn.
-    checkTiling(preview, side, kGreatDodecaStrokes, [&](TileSink& sink) {
-        TileGreatDodeca(sink, p, surfaceW, surfaceH, rowStart);
-    });
-    DrawGreatDodecaSheet(S, side, rowStart);
+    // The loops test at their end, so a side below 2 (row step 0) would
+    // never end and a tiny one would need millions of copies; tileY of the
+    // second row is the first sum to overflow as the side grows. The dry
+    // run finds each case before anything is drawn.
+    drawTiling(
+        S, preview, side, kGreatDodecaStrokes,
+        [&](TileSink& sink, const TileArea& a) { TileGreatDodeca(sink, p, a.surfaceW, a.surfaceH, a.rowStart); },
+        [&](Integer tileX, Integer tileY) { DrawGreatDodecaCopy(S, p, tileX, tileY); });
 }
 
 } // namespace gp

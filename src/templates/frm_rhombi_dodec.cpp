@@ -40,16 +40,13 @@ void FrmRhombiDodec::DrawFigure(DrawingSurface& S, Integer side, bool preview) {
     // hidden again while the form is loaded.
     if (RhombiDodecWantsWarning(side, preview ? 800 : 1440)) lblInfo2.setVisible(true);
 
-    const Integer surfaceW = CInt(S.ScaleWidth());
-    const Integer surfaceH = CInt(S.ScaleHeight());
-    const int rowStart = preview ? kPreviewLeft : 0;
-    // A dry run of the loops first: side * 6 of the row test is the first
-    // sum to overflow as the side grows, and a tiny side would need
-    // millions of copies; either way nothing is drawn.
-    checkTiling(preview, side, kRhombiDodecStrokes, [&](TileSink& sink) {
-        TileRhombiDodec(sink, side, surfaceW, surfaceH, rowStart);
-    });
-    DrawRhombiDodecSheet(S, side, rowStart);
+    // side * 6 of the row test is the first sum to overflow as the side
+    // grows, and a tiny side would need millions of copies; the dry run
+    // finds either before anything is drawn.
+    drawTiling(
+        S, preview, side, kRhombiDodecStrokes,
+        [&](TileSink& sink, const TileArea& a) { TileRhombiDodec(sink, side, a.surfaceW, a.surfaceH, a.rowStart); },
+        [&](Integer tileX, Integer tileY) { DrawRhombiDodecCopy(S, side, tileX, tileY); });
 }
 
 } // namespace gp

@@ -120,10 +120,4 @@ void TileGreatDodeca(TileSink& sink, const GreatDodecaParts& p, Integer surfaceW
     } while (tileY <= surfaceH - p.shortSin72 - 2 * p.shortSin36);
 }
 
-void DrawGreatDodecaSheet(DrawingSurface& S, Integer side, int rowStart) {
-    const GreatDodecaParts p = GreatDodecaPartsFor(side);
-    CopyDrawer drawer([&](Integer tileX, Integer tileY) { DrawGreatDodecaCopy(S, p, tileX, tileY); });
-    TileGreatDodeca(drawer, p, CInt(S.ScaleWidth()), CInt(S.ScaleHeight()), rowStart);
-}
-
 } // namespace gp

@@ -43,8 +43,4 @@ void DrawGreatDodecaCopy(DrawingSurface& S, const GreatDodecaParts& p, Integer t
 void TileGreatDodeca(TileSink& sink, const GreatDodecaParts& p, Integer surfaceW, Integer surfaceH,
                      int rowStart);
 
-// The tiling drawn on `S` with its own ScaleWidth and ScaleHeight. No guard
-// and no EndDoc: the form checks the side and ends the page.
-void DrawGreatDodecaSheet(DrawingSurface& S, Integer side, int rowStart);
-
 } // namespace gp

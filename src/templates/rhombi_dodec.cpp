@@ -78,9 +78,4 @@ void TileRhombiDodec(TileSink& sink, Integer side, Integer surfaceW, Integer sur
     }
 }
 
-void DrawRhombiDodecSheet(DrawingSurface& S, Integer side, int rowStart) {
-    CopyDrawer drawer([&](Integer tileX, Integer tileY) { DrawRhombiDodecCopy(S, side, tileX, tileY); });
-    TileRhombiDodec(drawer, side, CInt(S.ScaleWidth()), CInt(S.ScaleHeight()), rowStart);
-}
-
 } // namespace gp

@@ -24,8 +24,4 @@ void DrawRhombiDodecCopy(DrawingSurface& S, Integer side, Integer tileX, Integer
 // form, 0 on paper). The loops' 16-bit sums fault where they overflow.
 void TileRhombiDodec(TileSink& sink, Integer side, Integer surfaceW, Integer surfaceH, int rowStart);
 
-// The tiling drawn on `S` with its own ScaleWidth and ScaleHeight. No guard
-// and no EndDoc: the form checks the side and ends the page.
-void DrawRhombiDodecSheet(DrawingSurface& S, Integer side, int rowStart);
-
 } // namespace gp

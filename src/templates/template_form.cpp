@@ -155,6 +155,16 @@ void TemplateForm::checkTiling(bool preview, Integer side, int strokesPerCopy,
     }
 }
 
+void TemplateForm::drawTiling(DrawingSurface& surface, bool preview, Integer side, int strokesPerCopy,
+                              const Tiling& tiling, const std::function<void(Integer, Integer)>& drawCopy) {
+    // A surface too large for an Integer faults here, outside checkRange:
+    // that is no fault of the side.
+    const TileArea area{CInt(surface.ScaleWidth()), CInt(surface.ScaleHeight()), preview ? kPreviewLeft : 0};
+    checkTiling(preview, side, strokesPerCopy, [&](TileSink& sink) { tiling(sink, area); });
+    CopyDrawer drawer(drawCopy);
+    tiling(drawer, area);
+}
+
 void TemplateForm::checkRange(bool preview, Integer side, const std::function<void()>& work) {
     try {
         work();

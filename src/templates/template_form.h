@@ -129,6 +129,19 @@ protected:
     // drawing runs.
     void checkTiling(bool preview, Integer side, int strokesPerCopy,
                      const std::function<void(TileSink&)>& tiling);
+    // Where a figure's rows of copies may go: the surface's own ScaleWidth
+    // and ScaleHeight as Integers, and the x where a row starts
+    // (kPreviewLeft on the canvas, 0 on paper).
+    struct TileArea {
+        Integer surfaceW, surfaceH;
+        int rowStart;
+    };
+    using Tiling = std::function<void(TileSink&, const TileArea&)>;
+    // The whole of a tiled figure: checkTiling() runs the loops of `tiling`
+    // dry over the surface's area, then the same loops run again with each
+    // copy drawn by `drawCopy`.
+    void drawTiling(DrawingSurface& surface, bool preview, Integer side, int strokesPerCopy,
+                    const Tiling& tiling, const std::function<void(Integer, Integer)>& drawCopy);
     // Runs `work` (derived quantities stored in Integers) and turns an
     // Integer overflow in it into refuse(), with a message that fits `side`.
     void checkRange(bool preview, Integer side, const std::function<void()>& work);

@@ -96,3 +96,16 @@ TEST(ExplodeRunLimits, SingleOverflowAndTheIntegerCounterStopTheRunOnce) {
     EXPECT_EQ(e.t.faults().size() * 100000 + e.f().stepIndex(), 232767u);
     EXPECT_FALSE(e.timer().Enabled());
 }
+
+TEST(ExplodeRun, BeginKeepsAndACycleBringsBackOnlyThePointsTheTableHeld) {
+    // Begin keeps points 1 to 24 of the runner. The squares loaded during the
+    // run have 25, and at the end of the cycle their 25th comes back from an
+    // entry Begin never kept: the origin on a new form, not the squares'
+    // (1, 0) that the table held past the runner when Begin was pressed.
+    Explode e;
+    e("txtSteps=1 mnuSquares mnuRunner optMultiplier cmdBegin mnuSquares clear t2");
+    const std::vector<Stroke> l = e.frame();
+    ASSERT_EQ(l.size(), 24u);
+    EXPECT_EQ(l.front().x1, formX(-2.3f + 2.0));  // the runner's first point, sheared once
+    EXPECT_EQ(std::vector<float>({l.back().x2, l.back().y2}), std::vector<float>({6000, 5400}));
+}

@@ -78,12 +78,12 @@ TEST(Lifecycle, AFormThatIsNotThereIsReportedNotOpened) {
 TEST(Guard, AFaultEndsTheHandlerWithAMessageAndTheFormStaysUsable) {
     TestApp t;
     Form& f = t.show("frmTriangle");
-    f.on("cmdBoom", Event::Click, [&](const EventArgs&) {
+    f.on(kFormEvents, Event::KeyDown, [&](const EventArgs&) {
         f.Printer().Line(0, 0, 100, 100);
         Integer x = 32767;
         x += 1;
     });
-    t.fire(f, "cmdBoom", Event::Click);
+    t.fire(f, kFormEvents, Event::KeyDown);
     ASSERT_EQ(t.faults().size(), 1u);
     EXPECT_NE(t.faults()[0].find("overflow"), std::string::npos);
     t.fire(f, "cmdPrintIt", Event::Click);
@@ -94,10 +94,10 @@ TEST(Guard, AFaultEndsTheHandlerWithAMessageAndTheFormStaysUsable) {
 TEST(Guard, AnUnendingLoopIsStoppedByTheWorkLimit) {
     TestApp t;
     Form& f = t.show("frmTriangle");
-    f.on("cmdLoop", Event::Click, [&](const EventArgs&) {
+    f.on(kFormEvents, Event::KeyDown, [&](const EventArgs&) {
         for (;;) f.work();
     });
-    t.fire(f, "cmdLoop", Event::Click);
+    t.fire(f, kFormEvents, Event::KeyDown);
     ASSERT_EQ(t.faults().size(), 1u);
     // The next event has its whole budget again.
     t.fire(f, "cmdPrintIt", Event::Click);

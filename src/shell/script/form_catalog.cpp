@@ -8,37 +8,10 @@ namespace gp {
 
 namespace {
 
-const char* kindName(ControlKind k) {
-    switch (k) {
-    case ControlKind::TextBox: return "text box";
-    case ControlKind::Button: return "button";
-    case ControlKind::Label: return "label";
-    case ControlKind::CheckBox: return "check box";
-    case ControlKind::Option: return "option";
-    case ControlKind::Frame: return "frame";
-    case ControlKind::Shape: return "shape";
-    case ControlKind::Line: return "line";
-    case ControlKind::Timer: return "timer";
-    case ControlKind::Menu: return "menu";
-    }
-    return "control";
-}
-
-struct EventName {
-    Event event;
-    const char* name;
-};
-const EventName kEvents[] = {
-    {Event::Click, "Click"},         {Event::Change, "Change"},       {Event::LostFocus, "LostFocus"},
-    {Event::MouseDown, "MouseDown"}, {Event::MouseMove, "MouseMove"}, {Event::KeyDown, "KeyDown"},
-    {Event::Timer, "Timer"},         {Event::Load, "Load"},           {Event::Activate, "Activate"},
-    {Event::QueryUnload, "QueryUnload"},
-};
-
 std::string handled(const Form& form, const std::string& control) {
     std::string out;
-    for (const EventName& e : kEvents)
-        if (form.handles(control, e.event)) out += (out.empty() ? "" : ", ") + std::string(e.name);
+    for (Event e : kAllEvents)
+        if (form.handles(control, e)) out += (out.empty() ? "" : ", ") + std::string(eventName(e));
     return out;
 }
 
