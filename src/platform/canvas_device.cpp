@@ -31,6 +31,7 @@ QPainter& CanvasDevice::painter() {
 }
 
 void CanvasDevice::line(const Stroke& s) {
+    dirty_ = true;
     QPainter& p = painter();
     const PenScale scale{dpr_, sx_};
     p.setPen(makePen(s.style, s.width, s.color, scale));
@@ -42,10 +43,12 @@ void CanvasDevice::line(const Stroke& s) {
 }
 
 void CanvasDevice::pset(Single x, Single y, int width, long color) {
+    dirty_ = true;
     drawDot(painter(), x * sx_, y * sy_, width, color, PenScale{dpr_, sx_});
 }
 
 void CanvasDevice::print(Single x, Single y, const std::string& text, const FontSpec& font) {
+    dirty_ = true;
     QPainter& p = painter();
     p.save();
     p.resetTransform();  // fonts size themselves by the image's pixel ratio
@@ -54,11 +57,13 @@ void CanvasDevice::print(Single x, Single y, const std::string& text, const Font
 }
 
 void CanvasDevice::cls() {
+    dirty_ = true;
     if (painter_.isActive()) painter_.end();
     image_.fill(back_);
 }
 
 const QImage& CanvasDevice::image() {
+    dirty_ = false;
     if (painter_.isActive()) painter_.end();
     return image_;
 }

@@ -25,6 +25,8 @@ public:
 
     // Ends painting so the image can be shown.
     const QImage& image();
+    // Whether the window's last paint showed every op drawn so far.
+    bool screenUpToDate() const { return !dirty_; }
 
 private:
     QPainter& painter();
@@ -33,6 +35,7 @@ private:
     QPainter painter_;
     double sx_, sy_, dpr_;
     QColor back_;
+    bool dirty_ = false;
 };
 
 } // namespace gp
