@@ -22,6 +22,7 @@ CanvasDevice::CanvasDevice(int pixelWidth, int pixelHeight, Single unitsWide, Si
       record_(std::make_shared<CanvasRecord>()),
       worker_([this](QImage image, RasterWorker::Target target) { workerDone(std::move(image), target); }) {
     shown_.image = blankImage(pixels_, scale_.dpr, back_);
+    CanvasRecord::prepareMemory();
 }
 
 CanvasDevice::~CanvasDevice() { worker_.stop(); }

@@ -20,8 +20,8 @@ namespace gp {
 class CanvasDevice : public SurfaceDevice {
 public:
     // Up to this many new ops are painted in the paint event itself: a few
-    // milliseconds at most.
-    static constexpr size_t kPaintNow = 20000;
+    // milliseconds at most, even of short dashed strokes.
+    static constexpr size_t kPaintNow = 4000;
 
     // pixelWidth/Height: the client area in device pixels; units: the
     // canvas's ScaleWidth and ScaleHeight.

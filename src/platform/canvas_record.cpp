@@ -2,20 +2,40 @@
 
 #include <sys/mman.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <mutex>
 #include <new>
+#include <thread>
 
 namespace gp {
 
 namespace {
 
-// Blocks of records gone by, for the next ones. A record may end on a
-// worker's thread, hence the lock.
+// The blocks of every record, carved from one region reserved at first use
+// (address space only until a block is touched) and advised onto huge
+// pages, handed back when a record goes and kept for the next one. A
+// record may end on a worker's thread, hence the lock. Past the region a
+// block comes from the heap.
 class BlockPool {
 public:
-    // Enough for the densest preview twice over (one on show, one coming).
-    static constexpr size_t kKeep = 48;
+    // The densest preview twice over: the one on show and the one coming.
+    static constexpr size_t kBlocks = 48;
+
+    BlockPool() {
+        const size_t bytes = kBlocks * CanvasSlice::kBlockBytes;
+        void* raw = mmap(nullptr, bytes + CanvasSlice::kBlockBytes, PROT_READ | PROT_WRITE,
+                         MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        if (raw == MAP_FAILED) return;
+        const auto at = reinterpret_cast<std::uintptr_t>(raw);
+        const std::uintptr_t mask = CanvasSlice::kBlockBytes - 1;
+        begin_ = reinterpret_cast<char*>((at + mask) & ~mask);
+        end_ = begin_ + bytes;
+#ifdef MADV_HUGEPAGE
+        madvise(begin_, bytes, MADV_HUGEPAGE);
+#endif
+        for (size_t i = kBlocks; i-- > 0;) free_.push_back(begin_ + i * CanvasSlice::kBlockBytes);
+    }
 
     void* take() {
         {
@@ -28,25 +48,34 @@ public:
         }
         void* block = nullptr;
         if (posix_memalign(&block, CanvasSlice::kBlockBytes, CanvasSlice::kBlockBytes) != 0) throw std::bad_alloc();
-#ifdef MADV_HUGEPAGE
-        madvise(block, CanvasSlice::kBlockBytes, MADV_HUGEPAGE);
-#endif
         return block;
     }
     void give(void* block) {
-        {
-            std::lock_guard<std::mutex> lock(mutex_);
-            if (free_.size() < kKeep) {
-                free_.push_back(block);
-                return;
-            }
+        if (block < begin_ || block >= end_) {
+            std::free(block);
+            return;
         }
-        std::free(block);
+        std::lock_guard<std::mutex> lock(mutex_);
+        free_.push_back(block);
+    }
+    // Faults in the first `count` blocks ahead of use, so that the first
+    // big preview does not stop for page faults. The kernel fills in page
+    // tables without touching what a record may already have written, so
+    // this runs on a thread of its own without the lock.
+    void warm(size_t count) const {
+#ifdef MADV_POPULATE_WRITE
+        for (size_t i = 0; i < count && i < kBlocks && begin_; ++i)
+            madvise(begin_ + i * CanvasSlice::kBlockBytes, CanvasSlice::kBlockBytes, MADV_POPULATE_WRITE);
+#else
+        (void)count;
+#endif
     }
 
 private:
     std::mutex mutex_;
     std::vector<void*> free_;
+    char* begin_ = nullptr;
+    char* end_ = nullptr;
 };
 
 BlockPool& pool() {
@@ -55,6 +84,17 @@ BlockPool& pool() {
 }
 
 } // namespace
+
+void CanvasRecord::prepareMemory() {
+    static std::once_flag once;
+    std::call_once(once, [] {
+        pool();
+        std::thread([] {
+            // The densest preview's worth, in the order records take them.
+            pool().warm(24);
+        }).detach();
+    });
+}
 
 CanvasRecord::~CanvasRecord() {
     for (PageOp* b : blocks_) pool().give(b);
