@@ -10,6 +10,7 @@ constexpr size_t kBatch = 1024;
 // How often a worker looks whether its ops are still wanted: a fraction of
 // a millisecond of painting.
 constexpr size_t kStopCheck = 1024;
+constexpr size_t kPens = 4;
 } // namespace
 
 CanvasPainter::CanvasPainter(QImage& image, const CanvasScale& scale) : painter_(&image), scale_(scale) {
@@ -18,6 +19,7 @@ CanvasPainter::CanvasPainter(QImage& image, const CanvasScale& scale) : painter_
     painter_.resetTransform();
     painter_.scale(1.0 / scale_.dpr, 1.0 / scale_.dpr);
     run_.reserve(kBatch);
+    pens_.reserve(kPens);
 }
 
 CanvasPainter::~CanvasPainter() {
@@ -28,7 +30,15 @@ CanvasPainter::~CanvasPainter() {
 void CanvasPainter::usePen(const Stroke& s) {
     if (penSet_ && s.style == style_ && s.width == width_ && s.color == color_) return;
     flush();
-    painter_.setPen(makePen(s.style, s.width, s.color, PenScale{scale_.dpr, scale_.sx}));
+    const QPen* pen = nullptr;
+    for (const CachedPen& c : pens_)
+        if (c.style == s.style && c.width == s.width && c.color == s.color) pen = &c.pen;
+    if (!pen) {
+        if (pens_.size() >= kPens) pens_.erase(pens_.begin());
+        pens_.push_back({s.style, s.width, s.color, makePen(s.style, s.width, s.color, PenScale{scale_.dpr, scale_.sx})});
+        pen = &pens_.back().pen;
+    }
+    painter_.setPen(*pen);
     penSet_ = true;
     style_ = s.style;
     width_ = s.width;

@@ -43,6 +43,14 @@ private:
     bool penSet_ = false;
     int style_ = 0, width_ = 0;
     long color_ = 0;
+    // The last few pens made: a figure that alternates solid and dashed
+    // strokes switches between two pens thousands of times.
+    struct CachedPen {
+        int style, width;
+        long color;
+        QPen pen;
+    };
+    std::vector<CachedPen> pens_;
 };
 
 // Paints ops [slice.from, slice.to) onto `image`. Returns false, with the
