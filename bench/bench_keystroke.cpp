@@ -207,7 +207,8 @@ private:
 // time until the screen is complete.
 void measure(Window& w, Worst& worst, Clock::time_point posted) {
     const double preview = w.settle(posted);
-    worst.add(timedApp()->takeLongestMs(), preview);
+    const double stall = timedApp()->takeLongestMs();
+    worst.add(stall, preview);
 }
 
 // The keystroke that leaves `side` in the side box, and the Backspace that

@@ -49,6 +49,7 @@ void CanvasDevice::paintHere() {
     }
     const size_t n = record_->size();
     if (shown_.count < n) paintSlice(shown_.image, scale_, record_->slice(shown_.count, n));
+    opsPainted_ += n - shown_.count;
     shown_.count = n;
 }
 
@@ -99,6 +100,7 @@ void CanvasDevice::startWorker() {
 void CanvasDevice::workerDone(QImage image, RasterWorker::Target target) {
     // An image of a record since cleared is of no use any more.
     if (target.generation == generation_) {
+        opsPainted_ += target.count - (shown_.generation == target.generation ? shown_.count : 0);
         shown_.image = std::move(image);
         shown_.generation = target.generation;
         shown_.count = target.count;

@@ -43,6 +43,9 @@ public:
     void onImageReady(std::function<void()> callback) { ready_ = std::move(callback); }
     // Whether the window's last paint showed every op drawn so far.
     bool screenUpToDate() const;
+    // Ops turned into pixels on an image that was shown, since the canvas
+    // was made: each op once, however many paints it took.
+    size_t opsPainted() const { return opsPainted_; }
 
 private:
     struct Shown {
@@ -63,6 +66,7 @@ private:
     Shown shown_;
     RasterWorker::Target onScreen_;
     std::function<void()> ready_;
+    size_t opsPainted_ = 0;
     RasterWorker worker_;
 };
 

@@ -69,6 +69,14 @@ private:
     const double sx = kW / double(kUnitsW), sy = kH / double(kUnitsH);
 };
 
+// Counts the calls a page makes.
+struct Recorder : SurfaceDevice {
+    size_t ops = 0;
+    void line(const Stroke&) override { ++ops; }
+    void pset(Single, Single, int, long) override { ++ops; }
+    void print(Single, Single, const std::string&, const FontSpec&) override { ++ops; }
+};
+
 struct Pair {
     ImmediateCanvas before;
     CanvasDevice canvas{kW, kH, kUnitsW, kUnitsH, 0xFFFFFF, 1.0};
@@ -159,22 +167,26 @@ TEST(LazyCanvas, PaintsExactlyAsDrawingEveryCallAtOnce) {
 
 TEST(LazyCanvas, KeepsMarksAcrossPaintsAndPaintsOnlyWhatIsNew) {
     // Strings added click by click over one figure: each paint adds its ops
-    // on top of the image on show. Painting an op twice, dropping one or
-    // painting an older op after a newer one changes the colour where two
-    // strokes of different colours cross.
+    // on top of the image on show. Dropping an op, or painting an older op
+    // after a newer one, changes the colour where two strokes of different
+    // colours cross; painting one twice shows in the count.
     Pair t;
+    size_t recorded = 0;
     for (int click = 0; click < 6; ++click) {
         t.me.setDrawWidth(1 + click % 2);
         for (int i = 0; i < 30; ++i)
             t.me.Line(100.0 * click + 20 * i, 0, 3000.0 - 90 * i, 1800.0 - 40 * click,
                       RGB((click * 80) % 256, i * 8, 255 - click * 40));
+        recorded += 30;
         t.paintUntilComplete();
+        EXPECT_EQ(t.canvas.opsPainted(), recorded) << "each op painted once, after click " << click;
         EXPECT_TRUE(t.canvas.screenUpToDate());
     }
     const QImage kept = t.paintUntilComplete().copy();
     t.me.Line(0, 900, 3000, 900, RGB(0, 255, 0));
     EXPECT_FALSE(t.canvas.screenUpToDate()) << "a new op is not on the screen before the next paint";
     expectSame(t.paintUntilComplete(), t.before.done());
+    EXPECT_EQ(t.canvas.opsPainted(), recorded + 1);
     EXPECT_NE(kept, t.canvas.image());
 }
 
@@ -191,13 +203,18 @@ TEST(LazyCanvas, BigRecordsArePaintedByTheWorkerWhileTheLastImageStaysOnShow) {
     expectSame(t.paintUntilComplete(), t.before.done());
     EXPECT_GE(t.readyCalls, 1) << "the window is asked to paint when the worker's image is in";
 
-    // Ops added while the worker paints come after its image, in order.
+    // Ops added while the worker paints come after its image, in order,
+    // and none is painted twice.
     t.me.Cls();
+    const size_t before = t.canvas.opsPainted();
+    Recorder counted;
+    t.me.attach(&counted);
     bigFan(t.me, 6);
     t.canvas.imageForPaint();
     mixedFigure(t.me, 7);
     bigFan(t.me, 8);
     expectSame(t.paintUntilComplete(), t.before.done());
+    EXPECT_EQ(t.canvas.opsPainted() - before, counted.ops);
 }
 
 TEST(LazyCanvas, ANewRecordStopsTheWorkerAndTheLatestOneShows) {
