@@ -62,17 +62,27 @@ fuzz: asan
 	tests/fuzz/run_fuzz.sh $(ASAN_DIR)/gridpages $(ASAN_DIR)/tests/gridpages_fuzzgen $(FUZZ_SEED) $(FUZZ_COUNT) $(JOBS)
 
 # Every benchmark of bench/; each module's figures go to
-# build/bench-results/*.json, and one table of every page kind is printed.
+# build/bench-results/*.json, and one table of every page kind is printed,
+# then the canvas against a bare QPainter loop and the table of the
+# window's stalls after a key or click.
 bench: build
 	@mkdir -p $(BUILD_DIR)/bench-results
 	@for b in $(BUILD_DIR)/bench/bench_*; do \
-	  case $$b in *bench_pages|*_autogen) continue;; esac; \
+	  case $$b in *bench_pages|*bench_keystroke|*bench_canvas_floor|*_autogen) continue;; esac; \
 	  [ -x "$$b" ] || continue; \
 	  echo "running $$(basename $$b)"; \
 	  QT_QPA_PLATFORM=offscreen "$$b" --benchmark_out=$(BUILD_DIR)/bench-results/$$(basename $$b).json \
 	    --benchmark_out_format=json > /dev/null 2>&1 || echo "$$(basename $$b) failed"; \
 	done
 	@QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/bench/bench_pages
+	@echo "running bench_canvas_floor"
+	@QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/bench/bench_canvas_floor \
+	  --benchmark_out=$(BUILD_DIR)/bench-results/bench_canvas_floor.json --benchmark_out_format=json 2>/dev/null | \
+	  sed -n '/^The canvas painting/,$$p'
+	@echo "running bench_keystroke"
+	@QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/bench/bench_keystroke \
+	  --benchmark_out=$(BUILD_DIR)/bench-results/bench_keystroke.json --benchmark_out_format=json 2>/dev/null | \
+	  sed -n '/^The window after/,$$p'
 
 # The guide's pictures in docs/pictures: the sheets from their PDFs, the
 # forms from the real windows under Xvfb.

@@ -35,7 +35,9 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter p(this);
-        if (view_.canvas_) p.drawImage(QPointF(0, 0), view_.canvas_->image());
+        // The newest finished image: a big preview still being painted
+        // shows when it is done, the one before it stays until then.
+        if (view_.canvas_) p.drawImage(QPointF(0, 0), view_.canvas_->imageForPaint());
         for (const auto& c : view_.form_.controls()) {
             const ControlDesign& d = c->design();
             if (!c->Visible()) continue;
@@ -95,6 +97,7 @@ void FormView::build() {
                                              fd.backColor == kSystem3DHighlight ? 0xFFFFFF : fd.backColor,
                                              dpr);
     form_.Me().attach(canvas_.get());
+    canvas_->onImageReady([this] { client_->update(); });
 
     QHash<QString, QWidget*> frames;
     QHash<QString, QButtonGroup*> groups;

@@ -41,6 +41,7 @@ public:
     // Repaints the canvas after a handler has drawn.
     void refreshCanvas();
     QWidget* clientArea() const;
+    const CanvasDevice* canvas() const { return canvas_.get(); }
     // The form is being unloaded: stop timers and let go of it.
     void detach();
     // A menu of the platform's own beside those of the design table; the

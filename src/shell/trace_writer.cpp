@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <algorithm>
 #include <cstdlib>
 
 #include "shell/utf8.h"
@@ -32,37 +33,53 @@ void TraceWriter::appendNumber(std::string& out, Single v) {
     // in plain decimals (1247, 720.5, -0.3333333, 100000) unless the value
     // is very large or very small, where 1e+21 or 1e-7 is the only sane way.
     char sci[32];
-    auto res = std::to_chars(sci, sci + sizeof sci, v, std::chars_format::scientific);
-    std::string text(sci, res.ptr);
-    const size_t e = text.find('e');
-    const int exponent = std::atoi(text.c_str() + e + 1);
+    const char* end = std::to_chars(sci, sci + sizeof sci, v, std::chars_format::scientific).ptr;
+    const char* e = std::find(static_cast<const char*>(sci), end, 'e');
+    int exponent = 0;
+    for (const char* p = e + 2; p < end; ++p) exponent = exponent * 10 + (*p - '0');
+    if (e[1] == '-') exponent = -exponent;
     if (exponent < -7 || exponent >= 21) {
         char tmp[32];
-        auto r = std::to_chars(tmp, tmp + sizeof tmp, v);
-        out.append(tmp, r.ptr);
+        out.append(tmp, std::to_chars(tmp, tmp + sizeof tmp, v).ptr);
         return;
     }
-    std::string digits;
-    for (size_t i = 0; i < e; ++i)
-        if (text[i] >= '0' && text[i] <= '9') digits += text[i];
-    if (text[0] == '-') out += '-';
+    char digits[16];
+    size_t n = 0;
+    for (const char* p = sci; p < e; ++p)
+        if (*p >= '0' && *p <= '9') digits[n++] = *p;
+    if (sci[0] == '-') out += '-';
     if (exponent < 0) {
         out += "0.";
         out.append(static_cast<size_t>(-exponent - 1), '0');
-        out += digits;
-    } else if (digits.size() <= static_cast<size_t>(exponent) + 1) {
-        out += digits;
-        out.append(static_cast<size_t>(exponent) + 1 - digits.size(), '0');
+        out.append(digits, n);
+    } else if (n <= static_cast<size_t>(exponent) + 1) {
+        out.append(digits, n);
+        out.append(static_cast<size_t>(exponent) + 1 - n, '0');
     } else {
-        out.append(digits, 0, static_cast<size_t>(exponent) + 1);
+        const size_t whole = static_cast<size_t>(exponent) + 1;
+        out.append(digits, whole);
         out += '.';
-        out.append(digits, static_cast<size_t>(exponent) + 1, std::string::npos);
+        out.append(digits + whole, n - whole);
     }
 }
 
 
 void TraceWriter::appendString(std::string& out, const std::string& s) {
+    // Names and most texts need no escape: copied whole.
+    bool plain = true;
+    for (const char ch : s) {
+        const auto c = static_cast<unsigned char>(ch);
+        if (c < 0x20 || c >= 0x80 || c == '"' || c == '\\') {
+            plain = false;
+            break;
+        }
+    }
     out += '"';
+    if (plain) {
+        out += s;
+        out += '"';
+        return;
+    }
     for (size_t i = 0; i < s.size();) {
         const auto c = static_cast<unsigned char>(s[i]);
         if (c >= 0x80) {
@@ -125,7 +142,8 @@ void TraceWriter::num(const char* name, Single v) {
 
 void TraceWriter::integer(const char* name, long v) {
     key(name);
-    buf_ += std::to_string(v);
+    char digits[24];
+    buf_.append(digits, std::to_chars(digits, digits + sizeof digits, v).ptr);
 }
 
 void TraceWriter::str(const char* name, const std::string& v) {
