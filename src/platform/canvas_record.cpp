@@ -90,8 +90,12 @@ void CanvasRecord::prepareMemory() {
     std::call_once(once, [] {
         pool();
         std::thread([] {
-            // The densest preview's worth, in the order records take them.
-            pool().warm(24);
+            // One block: every everyday preview fits in it. A dense one
+            // pays its page faults once, the first time; its blocks come
+            // back to the pool faulted in for the next. Warming the
+            // densest preview's worth ahead would cost every session tens
+            // of megabytes that most never use.
+            pool().warm(1);
         }).detach();
     });
 }

@@ -46,8 +46,8 @@ public:
     void addText(Single x, Single y, const std::string& text, const FontSpec& font);
 
     size_t size() const { return size_; }
-    // Makes the memory of the first big records ready in the background:
-    // once a process, when the first window opens.
+    // Faults in the first block of records in the background, once a
+    // process, when the first window opens.
     static void prepareMemory();
     // Only on the thread that adds ops.
     CanvasSlice slice(size_t from, size_t to) const;
