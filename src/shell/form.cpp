@@ -1,6 +1,7 @@
 #include "shell/form.h"
 
 #include "shell/form_set.h"
+#include "shell/reach_count.h"
 
 namespace gp {
 
@@ -72,6 +73,7 @@ bool Form::handles(const std::string& control, Event event) const {
 void Form::raise(const std::string& control, Event event, const EventArgs& args) {
     auto it = handlers_.find({control, event});
     if (it == handlers_.end()) return;
+    countReach(name(), control, event);
     Handler h = it->second;  // a copy: the handler may unload its own form
     h(args);
 }
