@@ -65,7 +65,7 @@ test: build asan
 	  20261123 $(FUZZ_SAMPLE) $(JOBS)
 
 # A longer run of the harness; FUZZ_SEED and FUZZ_COUNT choose it (about
-# 0.5 s of one core a script; JOBS=1 leaves a core to others).
+# 1 to 8 s of one core a script; JOBS=1 leaves a core to others).
 fuzz: asan
 	tests/fuzz/run_fuzz.sh $(ASAN_DIR)/gridpages $(ASAN_DIR)/tests/gridpages_fuzzgen $(FUZZ_SEED) $(FUZZ_COUNT) $(JOBS)
 

@@ -2,6 +2,8 @@
 // a page does, with the values and files that reach its far corners.
 #include "fuzz/script_generator.h"
 
+#include <algorithm>
+
 #include "shell/controls.h"
 
 namespace gp::fuzz {
@@ -45,7 +47,9 @@ void ScriptGenerator::explodeIt(std::ostream& s, const FormInfo& f, int steps) {
         if (chance(0.5)) s << "answer " << pick(std::vector<std::string>{"1", "10", "0", "-5", "abc", "", "1e9"}) << "\n";
         s << "click cmdBegin\n";
         for (int n = upTo(1, 4); n > 0; --n) {
-            const int ticks = upTo(20, 400);
+            // Hundreds of frames in a long run; fewer for short scripts.
+            const int most = std::max(40, length_ * 10);
+            const int ticks = upTo(most / 20, most);
             s << "tick " << ticks << "\n";
             done += ticks / 10;
             if (chance(0.2)) mouse(s, "mousedown", f, true);

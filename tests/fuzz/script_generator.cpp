@@ -178,6 +178,7 @@ void ScriptGenerator::wander(std::ostream& s, int length) {
 }
 
 std::string ScriptGenerator::next(int length) {
+    length_ = length;
     std::ostringstream s;
     if (chance(0.3)) s << "printer " << pick(std::vector<std::string>{"11520 15120", "15120 11520", "2000 3000",
                                                                           "100 100", "30000 30000", "1 1"})

@@ -65,6 +65,7 @@ private:
 
     std::vector<FormInfo> forms_;
     std::mt19937 rng_;
+    int length_ = 40;  // of the script being made
 };
 
 } // namespace gp::fuzz
