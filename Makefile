@@ -44,20 +44,28 @@ ASAN_DIR ?= build-asan
 FUZZ_SEED ?= $(shell date +%s)
 FUZZ_COUNT ?= 10000
 FUZZ_SAMPLE ?= 300
+# The sample's scripts are shorter than a long run's, so that it costs
+# about what the shallower scripts of before did.
+FUZZ_SAMPLE_LENGTH ?= 8
 
-# The program and the script generator with AddressSanitizer and
-# UndefinedBehaviorSanitizer, for the robustness harness.
+# The program and the script generator with AddressSanitizer,
+# UndefinedBehaviorSanitizer (float-to-integer overflow included) and
+# LeakSanitizer, the trace checker and the failing-disk library, for the
+# robustness harness.
 asan: deps
 	@if [ ! -f $(ASAN_DIR)/CMakeCache.txt ]; then \
 	  cmake -S . -B $(ASAN_DIR) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DGRIDPAGES_SANITIZE=ON; \
 	fi
-	cmake --build $(ASAN_DIR) -j $(JOBS) --target gridpages gridpages_fuzzgen
+	cmake --build $(ASAN_DIR) -j $(JOBS) --target gridpages gridpages_fuzzgen gridpages_tracecheck \
+	  gridpages_failwrites
 
 test: build asan
 	cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
-	tests/fuzz/run_fuzz.sh $(ASAN_DIR)/gridpages $(ASAN_DIR)/tests/gridpages_fuzzgen 20261123 $(FUZZ_SAMPLE) $(JOBS)
+	FUZZ_LENGTH=$(FUZZ_SAMPLE_LENGTH) tests/fuzz/run_fuzz.sh $(ASAN_DIR)/gridpages $(ASAN_DIR)/tests/gridpages_fuzzgen \
+	  20261123 $(FUZZ_SAMPLE) $(JOBS)
 
-# A longer run of the harness; FUZZ_SEED and FUZZ_COUNT choose it.
+# A longer run of the harness; FUZZ_SEED and FUZZ_COUNT choose it (about
+# 1 to 8 s of one core a script; JOBS=1 leaves a core to others).
 fuzz: asan
 	tests/fuzz/run_fuzz.sh $(ASAN_DIR)/gridpages $(ASAN_DIR)/tests/gridpages_fuzzgen $(FUZZ_SEED) $(FUZZ_COUNT) $(JOBS)
 

@@ -35,12 +35,13 @@ public:
         return file_ != nullptr;
     }
     std::FILE* file() const { return file_; }
-    // Flushes and closes it; the reason where anything written was lost.
-    std::string close() {
+    // Flushes and closes it; the reason where anything written was lost
+    // (`firstError`: the error number of the first write that failed).
+    std::string close(int firstError) {
         if (!file_) return "";
         errno = 0;
-        bool ok = std::fflush(file_) == 0 && !std::ferror(file_);
-        int code = errno;
+        bool ok = std::fflush(file_) == 0 && !std::ferror(file_) && !firstError;
+        int code = firstError ? firstError : errno;
         if (file_ != stdout) {
             if (std::fclose(file_) != 0 && ok) ok = false, code = errno;
         }
@@ -121,6 +122,7 @@ int runBatch(const CommandLine& options, const Program& program) {
     }
 
     int status = 0;
+    int traceWriteError = 0;
     std::vector<std::string> failures;
     std::vector<std::string> warnings;
     {
@@ -156,8 +158,10 @@ int runBatch(const CommandLine& options, const Program& program) {
         }
         failures = session.outputFailures();
         if (status == 0) warnings = session.answerWarnings();
+        trace.flush();
+        traceWriteError = trace.writeError();
     }
-    const std::string traceError = traceFile.close();
+    const std::string traceError = traceFile.close(traceWriteError);
     if (!traceError.empty()) failures.push_back(traceError);
     for (const std::string& w : warnings) warn(scriptName, w);
     for (const std::string& f : failures) std::fprintf(stderr, "gridpages: not written: %s\n", f.c_str());

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <cerrno>
+#include <filesystem>
 
 #include "shell/safe_file.h"
 
@@ -38,7 +39,11 @@ QString nextSheetFile(const QString& folder, const std::string& name, const QStr
 
 OutputResult writeNumberedSheet(const QString& folder, const std::string& name, const QString& extension,
                                 std::string_view bytes, QString& written) {
-    if (!QDir().mkpath(folder)) return OutputResult::failed(folder.toStdString(), "the folder cannot be made");
+    // The system's own words for a folder that cannot be made ("Not a
+    // directory" where a file stands in the way).
+    std::error_code made;
+    std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), made);
+    if (made) return OutputResult::failed(folder.toStdString(), made.message());
     std::string error;
     // A name taken between the look and the write is passed over, never
     // written through; a handful of tries is enough for any race.

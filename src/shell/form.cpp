@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "shell/form_set.h"
+#include "shell/reach_count.h"
 
 namespace gp {
 
@@ -96,6 +97,7 @@ bool Form::handles(const std::string& control, Event event) const {
 void Form::raise(const std::string& control, Event event, const EventArgs& args) {
     auto it = handlers_.find({control, event});
     if (it == handlers_.end()) return;
+    countReach(name(), control, event);
     Handler h = it->second;  // a copy: the handler may unload its own form
     h(args);
 }

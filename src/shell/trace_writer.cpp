@@ -1,5 +1,6 @@
 #include "shell/trace_writer.h"
 
+#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <algorithm>
@@ -17,11 +18,18 @@ TraceWriter::TraceWriter(std::FILE* out) : out_(out) { buf_.reserve(kFlushAt + 1
 
 TraceWriter::~TraceWriter() { flush(); }
 
+void TraceWriter::writeOut() {
+    errno = 0;
+    if (!buf_.empty() && std::fwrite(buf_.data(), 1, buf_.size(), out_) != buf_.size() && !writeError_)
+        writeError_ = errno ? errno : EIO;
+    buf_.clear();
+}
+
 void TraceWriter::flush() {
     if (!out_) return;
-    if (!buf_.empty()) std::fwrite(buf_.data(), 1, buf_.size(), out_);
-    buf_.clear();
-    std::fflush(out_);
+    writeOut();
+    errno = 0;
+    if (std::fflush(out_) != 0 && !writeError_) writeError_ = errno ? errno : EIO;
 }
 
 void TraceWriter::appendNumber(std::string& out, Single v) {
@@ -153,10 +161,7 @@ void TraceWriter::str(const char* name, const std::string& v) {
 
 void TraceWriter::end() {
     buf_ += "}\n";
-    if (buf_.size() >= kFlushAt && out_) {
-        std::fwrite(buf_.data(), 1, buf_.size(), out_);
-        buf_.clear();
-    }
+    if (buf_.size() >= kFlushAt && out_) writeOut();
     if (!out_) buf_.clear();
 }
 

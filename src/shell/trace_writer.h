@@ -38,12 +38,17 @@ public:
     void visible(const std::string& control, bool value) override;
     void error(const std::string& message) override;
     void flush();
+    // The error number of the first write that failed, or 0. The stream
+    // keeps only a flag, so a full disk would otherwise be told as a bare
+    // input/output error.
+    int writeError() const { return writeError_; }
 
     // The shortest decimal that reads back to the same Single.
     static void appendNumber(std::string& out, Single v);
     static void appendString(std::string& out, const std::string& s);
 
 private:
+    void writeOut();
     void begin(const std::string& surface, const char* op);
     void beginOp(const char* op);
     void key(const char* name);
@@ -55,6 +60,7 @@ private:
     std::FILE* out_;
     std::string buf_;
     long strokes_ = 0;
+    int writeError_ = 0;
 };
 
 } // namespace gp

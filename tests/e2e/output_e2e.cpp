@@ -1,7 +1,9 @@
 // What leaves a batch run, and what it says when it cannot: sheets on a
 // named paper, numbered on in a folder that has some, output that cannot be
 // written (exit 1, the file named), scripts that cannot be read (exit 2),
-// and nothing left behind in the temporary folder.
+// and nothing left behind in the temporary folder. A full disk and a
+// read-only folder are made for one run by the harness's preloaded library,
+// so they need no root and no mounts.
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
@@ -9,6 +11,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 #include "support/run_program.h"
 
@@ -70,11 +73,74 @@ TEST(BatchOutput, OutputThatCannotBeWrittenNamesTheFileAndExitsOne) {
 
     const std::string full = shell("printf '" + std::string("click cmdTriangle\\nclick cmdPrintIt\\n") + "' | " +
                                    kBin + " --script - --trace /dev/full");
-    EXPECT_NE(full.find("/dev/full"), std::string::npos) << full;
+    EXPECT_NE(full.find("/dev/full: No space left on device"), std::string::npos) << full;
     EXPECT_NE(full.find("status=1"), std::string::npos) << full;
 
     const std::string noTrace = shell(kBin + " --script - --trace /nonexistent/dir/trace.jsonl </dev/null");
     EXPECT_NE(noTrace.find("status=1"), std::string::npos) << noTrace;
+}
+
+namespace {
+// Runs the triangle sheet with --pdf and --svg into `out`, made a full disk
+// or a read-only folder by the preloaded library; the output of the shell
+// with its status.
+std::string intoFailingFolder(const std::string& out, const std::string& as, const std::string& trace) {
+    return shell("printf '" + std::string("click cmdTriangle\\nclick cmdPrintIt\\n") + "' | env LD_PRELOAD='" +
+                 GRIDPAGES_FAILWRITES + "' GRIDPAGES_FAIL_UNDER='" + out + "' GRIDPAGES_FAIL_AS=" + as + " " + kBin +
+                 " --script - --pdf '" + out + "/pdf' --svg '" + out + "' --trace '" + trace + "'");
+}
+} // namespace
+
+TEST(BatchOutput, SheetsOnAFullDiskOrInAReadOnlyFolderExitOneAndLeaveWhatWasThere) {
+    auto first = runProgram(kBin, kTriangles, {"--pdf", "{dir}/out/pdf"});
+    ASSERT_EQ(first.status, 0) << first.errors;
+    const std::string out = first.dir + "/out", sheet1 = out + "/pdf/sheet-0001.pdf";
+    const auto before = fs::file_size(sheet1);
+
+    const std::string full = intoFailingFolder(out, "nospace", out + "/trace.jsonl");
+    EXPECT_NE(full.find("status=1"), std::string::npos) << full;
+    EXPECT_NE(full.find("out/pdf/sheet-0002.pdf: No space left on device"), std::string::npos) << full;
+    EXPECT_NE(full.find("out/sheet-0001.svg: No space left on device"), std::string::npos) << full;
+    EXPECT_NE(full.find("out/trace.jsonl: No space left on device"), std::string::npos) << full;
+    // The sheet already there is as it was, and nothing half-written lies beside it.
+    EXPECT_EQ(fs::file_size(sheet1), before);
+    EXPECT_EQ(std::distance(fs::directory_iterator(out + "/pdf"), fs::directory_iterator()), 1);
+
+    const std::string readOnly = intoFailingFolder(out, "readonly", first.dir + "/trace.jsonl");
+    EXPECT_NE(readOnly.find("status=1"), std::string::npos) << readOnly;
+    EXPECT_NE(readOnly.find("out/pdf/sheet-0002.pdf: Read-only file system"), std::string::npos) << readOnly;
+    EXPECT_NE(readOnly.find("out/sheet-0001.svg: Read-only file system"), std::string::npos) << readOnly;
+    EXPECT_EQ(fs::file_size(sheet1), before);
+
+    // A folder whose permissions refuse new files (root is not refused).
+    if (geteuid() != 0) {
+        fs::permissions(out + "/pdf", fs::perms::owner_read | fs::perms::owner_exec);
+        auto refused = runProgram(kBin, kTriangles, {"--pdf", out + "/pdf"});
+        fs::permissions(out + "/pdf", fs::perms::owner_all);
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_NE(refused.errors.find("sheet-0002.pdf: Permission denied"), std::string::npos) << refused.errors;
+    }
+}
+
+TEST(BatchOutput, AStringArtSaveOnAFullDiskOrReadOnlyFolderKeepsTheOldFileAndSaysSo) {
+    const std::string triangle = " 6 \r\n 5 \r\n 1000 \r\n 100 \r\n 11000 \r\n 100 \r\n 6000 \r\n 8760 \r\n"
+                                 " 1000 \r\n 100 \r\n 11000 \r\n 100 \r\n";
+    auto made = runProgram(kBin, "");
+    const std::string folder = made.dir + "/saves", file = folder + "/tri";
+    fs::create_directories(folder);
+    std::ofstream(file, std::ios::binary) << triangle;
+    std::ofstream(made.dir + "/save.txt") << "click cmdString2\nmenu mnuCube\nanswer " << file << "\nmenu mnuSave\n";
+    for (const char* as : {"nospace", "readonly"}) {
+        const std::string said = shell("env LD_PRELOAD='" + std::string(GRIDPAGES_FAILWRITES) + "' GRIDPAGES_FAIL_UNDER='" +
+                                       folder + "' GRIDPAGES_FAIL_AS=" + as + " " + kBin + " --script '" + made.dir +
+                                       "/save.txt' --trace -");
+        EXPECT_NE(said.find(R"("prompt":"You cancelled the Save.")"), std::string::npos) << as << ": " << said;
+        EXPECT_NE(said.find("status=0"), std::string::npos) << as << ": " << said;  // the page's message tells it
+        std::stringstream kept;
+        kept << std::ifstream(file, std::ios::binary).rdbuf();
+        EXPECT_EQ(kept.str(), triangle) << as;
+        EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 1) << as;
+    }
 }
 
 TEST(BatchOutput, ScriptsThatCannotBeReadOrHoldWhatIsNoCommand) {

@@ -279,6 +279,17 @@ TEST(NoPrinter, EachSheetIsSavedAsAPdfOnTheSystemsPaper) {
     expectTrueSizeTriangles(folder + "Triangles 1 in - 1.pdf");
 }
 
+TEST(NoPrinter, ADocumentsFolderThatCannotBeMadeIsToldAndNothingIsSaidToBeSaved) {
+    const Home h;
+    std::ofstream(h.path + "/Documents") << "a file where the folder would be";
+    const std::string said = capture(homeEnv(h) + kNoPrinter + " QT_QPA_PLATFORM=offscreen '" + kSelf +
+                                     "' --robot fallback 2>&1; echo status=$?");
+    EXPECT_NE(said.find("status=0"), std::string::npos) << said;
+    EXPECT_NE(said.find("robot: message: The sheet could not be printed or saved."), std::string::npos) << said;
+    EXPECT_NE(said.find("/Documents/gridpages sheets: Not a directory"), std::string::npos) << said;
+    EXPECT_EQ(said.find("was saved as a PDF file"), std::string::npos) << said;
+}
+
 TEST(NoPrinter, SheetsSavedAsPdfOrSvgGoToTheLastFolderWithNumberedNames) {
     const Home h;
     const std::string& home = h.path;
