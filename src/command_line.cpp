@@ -1,7 +1,6 @@
 #include "command_line.h"
 
-#include <cerrno>
-#include <cstdlib>
+#include "shell/script/script_line.h"
 
 namespace gp {
 
@@ -12,16 +11,6 @@ const char* const kUsage =
     "       gridpages --list               the forms a script can open\n"
     "       gridpages --describe FORM      the controls of one form\n"
     "  NAME is letter, legal, a3, a4, a5 or system; QUEUE is a printer or default.\n";
-
-namespace {
-bool parseWhole(const std::string& s, long long& out) {
-    if (s.empty()) return false;
-    char* end = nullptr;
-    errno = 0;
-    out = std::strtoll(s.c_str(), &end, 10);
-    return errno == 0 && end && *end == '\0';
-}
-} // namespace
 
 bool parseCommandLine(const std::vector<std::string>& args, CommandLine& o, std::string& error) {
     bool batchOnly = false;  // an option that means nothing without --script
