@@ -28,6 +28,7 @@
 #include <map>
 
 #include "all_forms.h"
+#include "bench_support.h"
 #include "platform/canvas_device.h"
 #include "platform/form_view.h"
 #include "platform/qt_drawing.h"
@@ -89,11 +90,7 @@ private:
 
 TimedApplication* timedApp() { return static_cast<TimedApplication*>(qApp); }
 
-class FaultLog : public SessionLog {
-public:
-    std::vector<std::string> faults;
-    void error(const std::string& message) override { faults.push_back(message); }
-};
+using gp::bench::FaultLog;
 
 // One page form in its real window, over the scripted session (dialogs are
 // answered from a queue, so nothing waits for a person).
