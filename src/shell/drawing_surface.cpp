@@ -24,43 +24,6 @@ void DrawingSurface::setScale(Single width, Single height) {
 Single DrawingSurface::ScaleWidth() const { return orientation_ == 2 ? scaleH_ : scaleW_; }
 Single DrawingSurface::ScaleHeight() const { return orientation_ == 2 ? scaleW_ : scaleH_; }
 
-void DrawingSurface::charge() {
-    if (meter_) meter_->tick();
-}
-
-void DrawingSurface::emitLine(Single x1, Single y1, Single x2, Single y2, long colour) {
-    charge();
-    const Stroke s{x1, y1, x2, y2, drawStyle_, drawWidth_, colour};
-    for (SurfaceDevice* d : devices_) d->line(s);
-    CurrentX = x2;
-    CurrentY = y2;
-}
-
-void DrawingSurface::Line(Double x1, Double y1, Double x2, Double y2) {
-    emitLine(CSng(x1), CSng(y1), CSng(x2), CSng(y2), kForeground);
-}
-
-void DrawingSurface::Line(Double x1, Double y1, Double x2, Double y2, long colour) {
-    emitLine(CSng(x1), CSng(y1), CSng(x2), CSng(y2), colour);
-}
-
-void DrawingSurface::LineTo(Double x2, Double y2) {
-    emitLine(CurrentX, CurrentY, CSng(x2), CSng(y2), kForeground);
-}
-
-void DrawingSurface::LineStep(Double x1, Double y1, Double dx, Double dy) {
-    const Single sx = CSng(x1), sy = CSng(y1);
-    // The end is worked out in single precision from the (rounded) start.
-    emitLine(sx, sy, CSng(static_cast<Double>(sx + CSng(dx))),
-             CSng(static_cast<Double>(sy + CSng(dy))), kForeground);
-}
-
-void DrawingSurface::LineStep(Double dx, Double dy) {
-    const Single sx = CurrentX, sy = CurrentY;
-    emitLine(sx, sy, CSng(static_cast<Double>(sx + CSng(dx))),
-             CSng(static_cast<Double>(sy + CSng(dy))), kForeground);
-}
-
 void DrawingSurface::PSet(Double x, Double y) {
     charge();
     const Single sx = CSng(x), sy = CSng(y);

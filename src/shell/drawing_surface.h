@@ -81,12 +81,22 @@ public:
     Single CurrentY = 0;
 
     // The five forms of Line. Coordinates arrive as Doubles and are rounded
-    // to Singles here, as passing them to the surface does.
-    void Line(Double x1, Double y1, Double x2, Double y2);                // (x1,y1)-(x2,y2)
-    void Line(Double x1, Double y1, Double x2, Double y2, long colour);   // ..., colour
-    void LineTo(Double x2, Double y2);                                    // -(x2,y2)
-    void LineStep(Double x1, Double y1, Double dx, Double dy);            // (x1,y1)-Step(dx,dy)
-    void LineStep(Double dx, Double dy);                                  // -Step(dx,dy)
+    // to Singles here, as passing them to the surface does. Inline: a dense
+    // preview makes a million of these calls in one keystroke.
+    void Line(Double x1, Double y1, Double x2, Double y2) {  // (x1,y1)-(x2,y2)
+        emitLine(CSng(x1), CSng(y1), CSng(x2), CSng(y2), kForeground);
+    }
+    void Line(Double x1, Double y1, Double x2, Double y2, long colour) {  // ..., colour
+        emitLine(CSng(x1), CSng(y1), CSng(x2), CSng(y2), colour);
+    }
+    void LineTo(Double x2, Double y2) {  // -(x2,y2)
+        emitLine(CurrentX, CurrentY, CSng(x2), CSng(y2), kForeground);
+    }
+    void LineStep(Double x1, Double y1, Double dx, Double dy) {  // (x1,y1)-Step(dx,dy)
+        const Single sx = CSng(x1), sy = CSng(y1);
+        stepFrom(sx, sy, dx, dy);
+    }
+    void LineStep(Double dx, Double dy) { stepFrom(CurrentX, CurrentY, dx, dy); }  // -Step(dx,dy)
 
     void PSet(Double x, Double y);
     void Cls();
@@ -119,9 +129,23 @@ public:
     const FontSpec& font() const { return font_; }
 
 private:
-    void emitLine(Single x1, Single y1, Single x2, Single y2, long colour);
+    // The end of a Step is worked out in single precision from the
+    // (rounded) start.
+    void stepFrom(Single sx, Single sy, Double dx, Double dy) {
+        emitLine(sx, sy, CSng(static_cast<Double>(sx + CSng(dx))), CSng(static_cast<Double>(sy + CSng(dy))),
+                 kForeground);
+    }
+    void emitLine(Single x1, Single y1, Single x2, Single y2, long colour) {
+        charge();
+        const Stroke s{x1, y1, x2, y2, drawStyle_, drawWidth_, colour};
+        for (SurfaceDevice* d : devices_) d->line(s);
+        CurrentX = x2;
+        CurrentY = y2;
+    }
     void printText(const std::string& text);
-    void charge();
+    void charge() {
+        if (meter_) meter_->tick();
+    }
 
     static void appendItem(std::string& out, const std::string& s) { out += s; }
     static void appendItem(std::string& out, const char* s) { out += s; }

@@ -7,16 +7,6 @@
 
 namespace gp {
 
-namespace detail {
-long long roundHalfEven(double x) {
-    // Anything outside +-2^62 is an overflow for every checked type here,
-    // and keeps the cast below defined.
-    if (!std::isfinite(x) || std::fabs(x) > 4.0e18) throwOverflow();
-    double r = std::nearbyint(x);  // the default rounding mode is half to even
-    return static_cast<long long>(r);
-}
-} // namespace detail
-
 namespace {
 bool skipped(char c) { return c == ' ' || c == '\t' || c == '\n'; }
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
@@ -63,19 +53,6 @@ Double Val(const std::string& text) {
     std::string canonical;
     if (scanNumber(packed, canonical) == 0) return 0.0;
     return parseCanonical(canonical);
-}
-
-Double Int(Double x) { return std::floor(x); }
-
-Integer CInt(Double x) { return Integer(x); }
-
-Long CLng(Double x) { return Long(x); }
-
-Single CSng(Double x) {
-    if (std::isnan(x)) throwOverflow();
-    float f = static_cast<float>(x);
-    if (std::isinf(f)) throwOverflow();
-    return f;
 }
 
 Double CDbl(const std::string& text) {

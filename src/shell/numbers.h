@@ -12,7 +12,9 @@
 // store back into an Integer is where the range is checked. Where a 16-bit
 // intermediate product matters, IMul says so.
 
+#include <cmath>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <type_traits>
 
@@ -24,7 +26,14 @@ using Single = float;
 using Double = double;
 
 namespace detail {
-long long roundHalfEven(double x);   // throws Overflow for NaN or huge values
+// Round half to even; an Overflow for NaN or a value beyond +-4e18, which
+// every checked type here refuses anyway and which keeps the cast defined.
+// Inline, as are Int, CInt and CSng below: a preview at a small side calls
+// them millions of times.
+inline long long roundHalfEven(double x) {
+    if (!(std::fabs(x) <= 4.0e18)) throwOverflow();  // NaN fails the test too
+    return static_cast<long long>(std::nearbyint(x));  // the default rounding mode is half to even
+}
 }
 
 template <typename Rep, long long Lo, long long Hi>
@@ -65,14 +74,18 @@ using Long = CheckedInt<long, -2147483648LL, 2147483647LL>;
 Double Val(const std::string& text);
 
 // Floor, kept as a Double; the caller decides whether it goes into an Integer.
-Double Int(Double x);
+inline Double Int(Double x) { return std::floor(x); }
 
 // Round half to even into an Integer / Long.
-Integer CInt(Double x);
-Long CLng(Double x);
+inline Integer CInt(Double x) { return Integer(x); }
+inline Long CLng(Double x) { return Long(x); }
 
 // Single from Double, with the range check that a Single store makes.
-Single CSng(Double x);
+inline Single CSng(Double x) {
+    const float f = static_cast<float>(x);
+    if (!(std::fabs(f) <= std::numeric_limits<float>::max())) throwOverflow();  // an infinity, or NaN
+    return f;
+}
 
 // The whole text as a number; TypeMismatch where it is not one.
 Double CDbl(const std::string& text);

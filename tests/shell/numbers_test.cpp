@@ -115,6 +115,21 @@ TEST(Conversions, CDblRefusesTextThatIsNoNumber) {
     EXPECT_EQ(CSng(0.1), 0.1f);
 }
 
+TEST(Conversions, CSngRoundsToTheNearestSingleAndOnlyWhatRoundsPastItOverflows) {
+    const float most = std::numeric_limits<float>::max();
+    EXPECT_EQ(CSng(3.4028234663852886e38), most);
+    EXPECT_EQ(CSng(3.40282356e38), most);  // above the largest Single, but rounds down to it
+    EXPECT_EQ(CSng(-3.40282356e38), -most);
+    EXPECT_THROW(CSng(3.4028236e38), Fault);  // rounds to infinity
+    EXPECT_THROW(CSng(-1e39), Fault);
+    EXPECT_THROW(CSng(HUGE_VAL), Fault);
+    EXPECT_THROW(CSng(-HUGE_VAL), Fault);
+    EXPECT_THROW(CSng(std::nan("")), Fault);
+    EXPECT_EQ(CSng(1e-50), 0.0f);  // too small for a Single is 0, no fault
+    EXPECT_THROW(CLng(1e19), Fault);
+    EXPECT_THROW(CLng(std::nan("")), Fault);
+}
+
 TEST(IntegerDivision, CutsTowardsZeroAndModTakesTheSignOfA) {
     EXPECT_EQ(IDiv(7, 2), 3);
     EXPECT_EQ(IDiv(-7, 2), -3);
