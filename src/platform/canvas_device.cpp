@@ -14,7 +14,7 @@ QImage blankImage(QSize pixels, double dpr, const QColor& back) {
 } // namespace
 
 CanvasDevice::CanvasDevice(int pixelWidth, int pixelHeight, Single unitsWide, Single unitsHigh,
-                           long backColor, double devicePixelRatio)
+                           long backColor, double devicePixelRatio, size_t mostOps)
     : pixels_(std::max(1, pixelWidth), std::max(1, pixelHeight)),
       scale_{pixelWidth / static_cast<double>(unitsWide), pixelHeight / static_cast<double>(unitsHigh),
              devicePixelRatio},
@@ -22,7 +22,7 @@ CanvasDevice::CanvasDevice(int pixelWidth, int pixelHeight, Single unitsWide, Si
       record_(std::make_shared<CanvasRecord>()),
       worker_([this](QImage image, RasterWorker::Target target) { workerDone(std::move(image), target); }) {
     shown_.image = blankImage(pixels_, scale_.dpr, back_);
-    CanvasRecord::prepareMemory();
+    CanvasRecord::prepareMemory(mostOps);
 }
 
 CanvasDevice::~CanvasDevice() { worker_.stop(); }
@@ -36,7 +36,10 @@ void CanvasDevice::print(Single x, Single y, const std::string& text, const Font
 }
 
 void CanvasDevice::cls() {
-    // A worker may still be reading the old record; it keeps it alive.
+    // A worker still painting the old record keeps it alive; its image
+    // would never show, so it stops now and gives the record's blocks
+    // back for the new one.
+    worker_.cancel();
     record_ = std::make_shared<CanvasRecord>();
     ++generation_;
 }

@@ -24,9 +24,10 @@ public:
     static constexpr size_t kPaintNow = 4000;
 
     // pixelWidth/Height: the client area in device pixels; units: the
-    // canvas's ScaleWidth and ScaleHeight.
+    // canvas's ScaleWidth and ScaleHeight; mostOps: the most ops one
+    // handler may draw, where that is more than a few thousand.
     CanvasDevice(int pixelWidth, int pixelHeight, Single unitsWide, Single unitsHigh, long backColor,
-                 double devicePixelRatio);
+                 double devicePixelRatio, size_t mostOps = 0);
     ~CanvasDevice() override;
 
     void line(const Stroke& s) override;

@@ -27,31 +27,32 @@ CanvasPainter::~CanvasPainter() {
     painter_.end();
 }
 
-void CanvasPainter::usePen(const Stroke& s) {
-    if (penSet_ && s.style == style_ && s.width == width_ && s.color == color_) return;
+void CanvasPainter::usePen(const CanvasOp& op) {
+    if (penSet_ && op.style == style_ && op.width == width_ && op.color == color_) return;
     flush();
     const QPen* pen = nullptr;
     for (const CachedPen& c : pens_)
-        if (c.style == s.style && c.width == s.width && c.color == s.color) pen = &c.pen;
+        if (c.style == op.style && c.width == op.width && c.color == op.color) pen = &c.pen;
     if (!pen) {
         if (pens_.size() >= kPens) pens_.erase(pens_.begin());
-        pens_.push_back({s.style, s.width, s.color, makePen(s.style, s.width, s.color, PenScale{scale_.dpr, scale_.sx})});
+        pens_.push_back({op.style, op.width, op.color,
+                         makePen(op.style, op.width, op.color, PenScale{scale_.dpr, scale_.sx})});
         pen = &pens_.back().pen;
     }
     painter_.setPen(*pen);
     penSet_ = true;
-    style_ = s.style;
-    width_ = s.width;
-    color_ = s.color;
+    style_ = op.style;
+    width_ = op.width;
+    color_ = op.color;
 }
 
-void CanvasPainter::line(const Stroke& s) {
-    usePen(s);
-    const QPointF a(s.x1 * scale_.sx, s.y1 * scale_.sy), b(s.x2 * scale_.sx, s.y2 * scale_.sy);
+void CanvasPainter::line(const CanvasOp& op) {
+    usePen(op);
+    const QPointF a(op.x1 * scale_.sx, op.y1 * scale_.sy), b(op.x2 * scale_.sx, op.y2 * scale_.sy);
     if (a == b) {
         flush();
         painter_.drawPoint(a);
-    } else if (s.style != 0) {
+    } else if (op.style != CanvasOp::Solid) {
         // A dashed stroke starts its pattern afresh; a batch would carry
         // the pattern on from the stroke before.
         flush();
@@ -62,9 +63,9 @@ void CanvasPainter::line(const Stroke& s) {
     }
 }
 
-void CanvasPainter::dot(Single x, Single y, int width, long color) {
+void CanvasPainter::dot(const CanvasOp& op) {
     flush();
-    drawDot(painter_, x * scale_.sx, y * scale_.sy, width, color, PenScale{scale_.dpr, scale_.sx});
+    drawDot(painter_, op.x1 * scale_.sx, op.y1 * scale_.sy, op.width, op.color, PenScale{scale_.dpr, scale_.sx});
     penSet_ = false;
 }
 
@@ -86,12 +87,11 @@ bool paintSlice(QImage& image, const CanvasScale& scale, const CanvasSlice& slic
     CanvasPainter painter(image, scale);
     for (size_t i = slice.from; i < slice.to; ++i) {
         if (stop && (i - slice.from) % kStopCheck == 0 && stop->load(std::memory_order_relaxed)) return false;
-        const PageOp& op = slice.at(i);
-        const Stroke& s = op.stroke;
+        const CanvasOp& op = slice.at(i);
         switch (op.kind) {
-        case PageOp::LineOp: painter.line(s); break;
-        case PageOp::DotOp: painter.dot(s.x1, s.y1, s.width, s.color); break;
-        case PageOp::TextOp: {
+        case CanvasOp::Line: painter.line(op); break;
+        case CanvasOp::Dot: painter.dot(op); break;
+        case CanvasOp::Text: {
             const PageText& t = slice.text(op);
             painter.text(t.x, t.y, t.text, t.font);
             break;

@@ -28,26 +28,24 @@ public:
     CanvasPainter(const CanvasPainter&) = delete;
     CanvasPainter& operator=(const CanvasPainter&) = delete;
 
-    void line(const Stroke& s);
-    void dot(Single x, Single y, int width, long color);
+    void line(const CanvasOp& op);
+    void dot(const CanvasOp& op);
     void text(Single x, Single y, const std::string& text, const FontSpec& font);
     // Sends the strokes still held back.
     void flush();
 
 private:
-    void usePen(const Stroke& s);
+    void usePen(const CanvasOp& op);
 
     QPainter painter_;
     CanvasScale scale_;
     std::vector<QLineF> run_;
     bool penSet_ = false;
-    int style_ = 0, width_ = 0;
-    long color_ = 0;
+    int style_ = 0, width_ = 0, color_ = 0;
     // The last few pens made: a figure that alternates solid and dashed
     // strokes switches between two pens thousands of times.
     struct CachedPen {
-        int style, width;
-        long color;
+        int style, width, color;
         QPen pen;
     };
     std::vector<CachedPen> pens_;

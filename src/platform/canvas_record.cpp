@@ -2,6 +2,8 @@
 
 #include <sys/mman.h>
 
+#include <algorithm>
+#include <condition_variable>
 #include <cstdint>
 #include <cstdlib>
 #include <mutex>
@@ -14,13 +16,21 @@ namespace {
 
 // The blocks of every record, carved from one region reserved at first use
 // (address space only until a block is touched) and advised onto huge
-// pages, handed back when a record goes and kept for the next one. A
-// record may end on a worker's thread, hence the lock. Past the region a
-// block comes from the heap.
+// pages, handed back when a record goes and kept, faulted in, for the next
+// one. A record may end on a worker's thread, hence the lock. Past the
+// region a block comes from the heap.
+//
+// Fresh memory is dear: the first touch of a 2 MB block can cost more than
+// recording the ops that fill it. So a thread of the pool's own faults in
+// blocks ahead of use and keeps a reserve of them ready: one block where
+// canvases get a few thousand ops, the densest preview's worth where a
+// window can ask for that.
 class BlockPool {
 public:
-    // The densest preview twice over: the one on show and the one coming.
-    static constexpr size_t kBlocks = 48;
+    // The densest preview twice over (the one on show and the one coming),
+    // with room to spare.
+    static constexpr size_t kBlocks = 40;
+    static constexpr size_t kMostReserve = kBlocks / 2;
 
     BlockPool() {
         const size_t bytes = kBlocks * CanvasSlice::kBlockBytes;
@@ -30,19 +40,23 @@ public:
         const auto at = reinterpret_cast<std::uintptr_t>(raw);
         const std::uintptr_t mask = CanvasSlice::kBlockBytes - 1;
         begin_ = reinterpret_cast<char*>((at + mask) & ~mask);
-        end_ = begin_ + bytes;
 #ifdef MADV_HUGEPAGE
         madvise(begin_, bytes, MADV_HUGEPAGE);
 #endif
-        for (size_t i = kBlocks; i-- > 0;) free_.push_back(begin_ + i * CanvasSlice::kBlockBytes);
     }
 
     void* take() {
         {
             std::lock_guard<std::mutex> lock(mutex_);
+            void* block = nullptr;
             if (!free_.empty()) {
-                void* block = free_.back();
+                block = free_.back();
                 free_.pop_back();
+            } else if (begin_ && next_ < kBlocks) {
+                block = begin_ + next_++ * CanvasSlice::kBlockBytes;
+            }
+            if (block) {
+                if (warming_ && ready() < reserve_) wake_.notify_one();
                 return block;
             }
         }
@@ -51,31 +65,61 @@ public:
         return block;
     }
     void give(void* block) {
-        if (block < begin_ || block >= end_) {
+        if (!inRegion(block)) {
             std::free(block);
             return;
         }
         std::lock_guard<std::mutex> lock(mutex_);
         free_.push_back(block);
     }
-    // Faults in the first `count` blocks ahead of use, so that the first
-    // big preview does not stop for page faults. The kernel fills in page
-    // tables without touching what a record may already have written, so
-    // this runs on a thread of its own without the lock.
-    void warm(size_t count) const {
+    // Keeps at least `blocks` faulted in and free from now on; the first
+    // call starts the thread that keeps the reserve.
+    void keepReady(size_t blocks) {
 #ifdef MADV_POPULATE_WRITE
-        for (size_t i = 0; i < count && i < kBlocks && begin_; ++i)
-            madvise(begin_ + i * CanvasSlice::kBlockBytes, CanvasSlice::kBlockBytes, MADV_POPULATE_WRITE);
+        std::lock_guard<std::mutex> lock(mutex_);
+        if (!begin_) return;
+        reserve_ = std::max(reserve_, std::min(std::max(blocks, size_t(1)), kMostReserve));
+        if (!warming_) {
+            warming_ = true;
+            std::thread([this] { warm(); }).detach();
+        }
+        wake_.notify_one();
 #else
-        (void)count;
+        (void)blocks;
 #endif
     }
 
 private:
+    bool inRegion(const void* block) const {
+        return begin_ && block >= begin_ && block < begin_ + kBlocks * CanvasSlice::kBlockBytes;
+    }
+    // Faulted-in blocks that no record holds. Call with the lock.
+    size_t ready() const { return free_.size() + (warmed_ > next_ ? warmed_ - next_ : 0); }
+
+    void warm() {
+#ifdef MADV_POPULATE_WRITE
+        std::unique_lock<std::mutex> lock(mutex_);
+        for (;;) {
+            wake_.wait(lock, [this] { return ready() < reserve_ && std::max(warmed_, next_) < kBlocks; });
+            const size_t i = std::max(warmed_, next_);
+            warmed_ = i + 1;
+            lock.unlock();
+            // The kernel fills in page tables without touching what a
+            // record may already be writing into the block.
+            madvise(begin_ + i * CanvasSlice::kBlockBytes, CanvasSlice::kBlockBytes, MADV_POPULATE_WRITE);
+            lock.lock();
+        }
+#endif
+    }
+
     std::mutex mutex_;
-    std::vector<void*> free_;
+    std::condition_variable wake_;
+    std::vector<void*> free_;  // given back, faulted in
     char* begin_ = nullptr;
-    char* end_ = nullptr;
+    size_t next_ = 0;     // blocks [0, next_) have been handed out at least once
+    size_t warmed_ = 0;   // blocks [0, warmed_) have been faulted in ahead, or are being
+    size_t reserve_ = 0;
+    bool warming_ = false;
 };
 
 BlockPool& pool() {
@@ -85,33 +129,22 @@ BlockPool& pool() {
 
 } // namespace
 
-void CanvasRecord::prepareMemory() {
-    static std::once_flag once;
-    std::call_once(once, [] {
-        pool();
-        std::thread([] {
-            // One block: every everyday preview fits in it. A dense one
-            // pays its page faults once, the first time; its blocks come
-            // back to the pool faulted in for the next. Warming the
-            // densest preview's worth ahead would cost every session tens
-            // of megabytes that most never use.
-            pool().warm(1);
-        }).detach();
-    });
+void CanvasRecord::prepareMemory(size_t ops) {
+    pool().keepReady((ops + CanvasSlice::kPerBlock - 1) / CanvasSlice::kPerBlock);
 }
 
 CanvasRecord::~CanvasRecord() {
-    for (PageOp* b : blocks_) pool().give(b);
+    for (CanvasOp* b : blocks_) pool().give(b);
 }
 
 void CanvasRecord::newBlock() {
-    static_assert(std::is_trivially_destructible_v<PageOp>, "ops are written into raw blocks");
-    blocks_.push_back(static_cast<PageOp*>(pool().take()));
+    static_assert(std::is_trivially_destructible_v<CanvasOp>, "ops are written into raw blocks");
+    blocks_.push_back(static_cast<CanvasOp*>(pool().take()));
 }
 
 void CanvasRecord::addText(Single x, Single y, const std::string& text, const FontSpec& font) {
     texts_.push_back(std::make_shared<const PageText>(PageText{x, y, text, font}));
-    add({PageOp::TextOp, Stroke{x, y, x, y, 0, 0, kForeground}, static_cast<int>(texts_.size() - 1)});
+    add(CanvasOp::text(x, y, static_cast<std::int32_t>(texts_.size() - 1)));
 }
 
 CanvasSlice CanvasRecord::slice(size_t from, size_t to) const {

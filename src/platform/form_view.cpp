@@ -95,7 +95,7 @@ void FormView::build() {
     canvas_ = std::make_unique<CanvasDevice>(static_cast<int>(w * dpr), static_cast<int>(h * dpr),
                                              fd.canvasWidth(), fd.canvasHeight(),
                                              fd.backColor == kSystem3DHighlight ? 0xFFFFFF : fd.backColor,
-                                             dpr);
+                                             dpr, fd.previewStrokeLimit);
     form_.Me().attach(canvas_.get());
     canvas_->onImageReady([this] { client_->update(); });
 

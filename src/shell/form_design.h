@@ -79,6 +79,11 @@ struct FormDesign {
     Single scaleWidth = 0;
     Single scaleHeight = 0;
     std::vector<ControlDesign> controls;  // in tab order
+    // The most strokes one handler may draw on the canvas, where that runs
+    // to a million or more (a template's preview at a small side): the
+    // window keeps memory ready for them. 0 where it is never more than a
+    // few thousand.
+    size_t previewStrokeLimit = 0;
 
     Single canvasWidth() const { return scaleWidth > 0 ? scaleWidth : Single(clientWidth); }
     Single canvasHeight() const { return scaleHeight > 0 ? scaleHeight : Single(clientHeight); }

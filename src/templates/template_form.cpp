@@ -25,6 +25,7 @@ FormDesign TemplateForm::BuildDesign(const TemplateDescription& t) {
     d.font = FontSpec{"Arial", 9.75, false, false};
     d.scaleWidth = t.scaleWidth;
     d.scaleHeight = t.scaleHeight;
+    d.previewStrokeLimit = static_cast<size_t>(kPreviewStrokeLimit);
     if (!t.labels.empty()) d.controls.push_back(t.labels.front());
     d.controls.push_back(TextBoxDesign("txtLeng", t.defaultLength)
                              .at(t.txtLengLeft, t.txtLengTop, t.txtLengWidth, t.txtLengHeight)

@@ -165,6 +165,29 @@ TEST(LazyCanvas, PaintsExactlyAsDrawingEveryCallAtOnce) {
     expectSame(c.paintUntilComplete(), c.before.done());
 }
 
+TEST(LazyCanvas, KeepsOnlyWhatTheScreenMakesOfOddPensAndColours) {
+    // The record keeps a colour in 32 bits, a width in 16 and three kinds
+    // of style. Colours past 24 bits or negative, widths of 0 or below and
+    // the styles that draw solid one stroke at a time must look exactly as
+    // they did, between and across runs of the plain solid pen.
+    Pair t;
+    const long colours[] = {0x7FFFFFFF, 0x1FF00FF, -5, -2147483647 - 1, 0xFFFFFF, kForeground};
+    const int widths[] = {0, -3, 1, 2, 5};
+    for (int i = 0; i < 60; ++i) {
+        t.me.setDrawStyle(i % 7);
+        t.me.setDrawWidth(widths[i % 5]);
+        t.me.Line(30.0 + 45 * i, 20.0 + 25 * (i % 13), 2950.0 - 40 * i, 1780.0 - 28 * (i % 17), colours[i % 6]);
+        t.me.setDrawStyle(0);
+        t.me.Line(2900.0 - 45 * i, 30.0, 60.0 + 40 * i, 1750.0, colours[(i + 3) % 6]);
+        t.me.Line(60.0 + 40 * i, 1750.0, 1500.0, 900.0, colours[(i + 3) % 6]);
+    }
+    t.me.setDrawWidth(0);
+    t.me.PSet(400, 400);
+    t.me.setDrawWidth(-2);
+    t.me.PSet(2600, 1400);
+    expectSame(t.paintUntilComplete(), t.before.done());
+}
+
 TEST(LazyCanvas, KeepsMarksAcrossPaintsAndPaintsOnlyWhatIsNew) {
     // Strings added click by click over one figure: each paint adds its ops
     // on top of the image on show. Dropping an op, or painting an older op
