@@ -30,6 +30,8 @@ public:
 class FaultLog : public SessionLog {
 public:
     std::vector<std::string> faults;
+    // As in the window, no surface tells its strokes to a log.
+    bool wantsDrawing() const override { return false; }
     void error(const std::string& message) override { faults.push_back(message); }
 };
 

@@ -15,6 +15,10 @@ class SessionLog {
 public:
     virtual ~SessionLog() = default;
 
+    // A log that ignores every drawing call says so, and no surface tells
+    // it any: a dense preview makes a million of them in one keystroke.
+    virtual bool wantsDrawing() const { return true; }
+
     virtual void line(const std::string& /*surface*/, const Stroke& /*s*/) {}
     virtual void pset(const std::string& /*surface*/, Single /*x*/, Single /*y*/, int /*width*/, long /*color*/) {}
     virtual void print(const std::string& /*surface*/, Single /*x*/, Single /*y*/, const std::string& /*text*/,

@@ -27,7 +27,7 @@ ScriptedSession::ScriptedSession(const Program& program, SessionLog& log, const 
       printer_(DrawingSurface::Kind::Printer, "Printer", settings.printerWidth, settings.printerHeight),
       printerLog_(log, "Printer"),
       pages_(printer_, *this) {
-    printer_.attach(&printerLog_);
+    if (log.wantsDrawing()) printer_.attach(&printerLog_);
     printer_.attach(&pages_);
     printer_.setTextMeasurer(measurer_);
     if (settings.seeded) random_.seed(settings.seed);
@@ -209,8 +209,10 @@ void ScriptedSession::formMissing(const std::string& formName) {
 }
 
 void ScriptedSession::formLoaded(Form& form) {
-    canvasLogs_.push_back(std::make_unique<SurfaceLog>(log_, form.name()));
-    form.Me().attach(canvasLogs_.back().get());
+    if (log_.wantsDrawing()) {
+        canvasLogs_.push_back(std::make_unique<SurfaceLog>(log_, form.name()));
+        form.Me().attach(canvasLogs_.back().get());
+    }
     form.Me().setTextMeasurer(measurer_);
     form.setObserver(this);
     if (formLoadedHook_) formLoadedHook_(form);
