@@ -63,6 +63,12 @@ GreatDodecaParts GreatDodecaPartsFor(Integer side) {
     p.shortSin36 = Int(p.shortSide * std::sin(angle36));
     p.shortCos72 = Int(p.shortSide * std::cos(angle72));
     p.shortSin72 = Int(p.shortSide * std::sin(angle72));
+    for (int arm = 0; arm < kGreatDodecaArms; ++arm)
+        for (int k = 0; k < kStrokesPerArm; ++k) {
+            const ArmStroke& st = kArm[k];
+            const GridPoint d = Step(p, st.heading + 72 * arm, st.length);
+            p.walk[static_cast<size_t>(arm * kStrokesPerArm + k)] = {d.x, d.y, st.style};
+        }
     return p;
 }
 
@@ -86,15 +92,14 @@ void DrawGreatDodecaCopy(DrawingSurface& S, const GreatDodecaParts& p, Integer t
     const auto start = GreatDodecaArmStarts(p, tileX, tileY);
     for (int arm = 0; arm < kGreatDodecaArms; ++arm) {
         for (int k = 0; k < kStrokesPerArm; ++k) {
-            const ArmStroke& st = kArm[k];
+            const GreatDodecaStroke& st = p.walk[static_cast<size_t>(arm * kStrokesPerArm + k)];
             S.setDrawStyle(st.style);
-            const GridPoint d = Step(p, st.heading + 72 * arm, st.length);
             if (k == 0)
-                S.LineStep(start[arm].x, start[arm].y, d.x, d.y);
+                S.LineStep(start[arm].x, start[arm].y, st.dx, st.dy);
             else if (k == 2 && arm == 0)
                 S.LineTo(tileX, tileY);  // closes on the start exactly
             else
-                S.LineStep(d.x, d.y);
+                S.LineStep(st.dx, st.dy);
         }
         S.setDrawStyle(0);
     }

@@ -13,13 +13,22 @@ namespace gp {
 constexpr int kGreatDodecaArms = 5;
 constexpr int kGreatDodecaStrokes = 5 * 13;
 
+// One stroke of a copy's walk: its offsets, made of the parts below, and
+// its DrawStyle.
+struct GreatDodecaStroke {
+    int dx, dy;
+    int style;
+};
+
 // The eight floored parts of a long and a short stroke at 36 and 72 degrees.
 // Every stroke of the net is made of them, so their floors are what the
-// walks add up.
+// walks add up. Every copy walks the same 65 strokes from its own corners,
+// so the walk is worked out once with the parts, not again for each copy.
 struct GreatDodecaParts {
     Integer side, shortSide;
     Integer sideCos36, sideSin36, sideCos72, sideSin72;
     Integer shortCos36, shortSin36, shortCos72, shortSin72;
+    std::array<GreatDodecaStroke, kGreatDodecaStrokes> walk;  // arm 0's 13 strokes, then arm 1's, ...
 };
 
 GreatDodecaParts GreatDodecaPartsFor(Integer side);
