@@ -5,6 +5,7 @@
 #include <cmath>
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 #include "shell/utf8.h"
 
@@ -32,45 +33,59 @@ void TraceWriter::flush() {
     if (std::fflush(out_) != 0 && !writeError_) writeError_ = errno ? errno : EIO;
 }
 
-void TraceWriter::appendNumber(std::string& out, Single v) {
-    if (!std::isfinite(v)) {  // not JSON; the surface never passes one on
-        out += "null";
-        return;
-    }
-    // The shortest digits that read back to the same Single, written out
-    // in plain decimals (1247, 720.5, -0.3333333, 100000) unless the value
-    // is very large or very small, where 1e+21 or 1e-7 is the only sane way.
+namespace {
+// Room for any number writeNumber or to_chars writes, with its key.
+constexpr size_t kNumberRoom = 48;
+
+template <size_t N>
+char* put(char* at, const char (&text)[N]) {
+    std::memcpy(at, text, N - 1);
+    return at + N - 1;
+}
+
+char* putInteger(char* at, long v) { return std::to_chars(at, at + kNumberRoom, v).ptr; }
+
+// The shortest digits that read back to the same Single, written out in
+// plain decimals (1247, 720.5, -0.3333333, 100000) unless the value is very
+// large or very small, where 1e+21 or 1e-7 is the only sane way.
+char* putNumber(char* at, Single v) {
+    if (!std::isfinite(v)) return put(at, "null");  // not JSON; the surface never passes one on
+    // Whole twips, nearly every coordinate of a sheet: below 2^24 the
+    // shortest digits of a whole Single are those of the whole number.
+    if (std::fabs(v) < 16777216.0f && v == std::trunc(v) && !(v == 0 && std::signbit(v)))
+        return putInteger(at, static_cast<long>(v));
     char sci[32];
     const char* end = std::to_chars(sci, sci + sizeof sci, v, std::chars_format::scientific).ptr;
     const char* e = std::find(static_cast<const char*>(sci), end, 'e');
     int exponent = 0;
     for (const char* p = e + 2; p < end; ++p) exponent = exponent * 10 + (*p - '0');
     if (e[1] == '-') exponent = -exponent;
-    if (exponent < -7 || exponent >= 21) {
-        char tmp[32];
-        out.append(tmp, std::to_chars(tmp, tmp + sizeof tmp, v).ptr);
-        return;
-    }
+    if (exponent < -7 || exponent >= 21) return std::to_chars(at, at + kNumberRoom, v).ptr;
     char digits[16];
     size_t n = 0;
     for (const char* p = sci; p < e; ++p)
         if (*p >= '0' && *p <= '9') digits[n++] = *p;
-    if (sci[0] == '-') out += '-';
+    if (sci[0] == '-') *at++ = '-';
     if (exponent < 0) {
-        out += "0.";
-        out.append(static_cast<size_t>(-exponent - 1), '0');
-        out.append(digits, n);
-    } else if (n <= static_cast<size_t>(exponent) + 1) {
-        out.append(digits, n);
-        out.append(static_cast<size_t>(exponent) + 1 - n, '0');
-    } else {
-        const size_t whole = static_cast<size_t>(exponent) + 1;
-        out.append(digits, whole);
-        out += '.';
-        out.append(digits + whole, n - whole);
+        at = put(at, "0.");
+        at = std::fill_n(at, -exponent - 1, '0');
+        return std::copy_n(digits, n, at);
     }
+    const size_t whole = static_cast<size_t>(exponent) + 1;
+    if (n <= whole) {
+        at = std::copy_n(digits, n, at);
+        return std::fill_n(at, whole - n, '0');
+    }
+    at = std::copy_n(digits, whole, at);
+    *at++ = '.';
+    return std::copy_n(digits + whole, n - whole, at);
 }
+} // namespace
 
+void TraceWriter::appendNumber(std::string& out, Single v) {
+    char room[kNumberRoom];
+    out.append(room, putNumber(room, v));
+}
 
 void TraceWriter::appendString(std::string& out, const std::string& s) {
     // Names and most texts need no escape: copied whole.
@@ -124,9 +139,15 @@ void TraceWriter::appendString(std::string& out, const std::string& s) {
 }
 
 void TraceWriter::begin(const std::string& surface, const char* op) {
-    buf_ += "{\"s\":";
-    appendString(buf_, surface);
-    buf_ += ",\"op\":\"";
+    // A run draws on one surface after another thousands of times: the
+    // start of its lines is made once.
+    if (surfaceStart_.empty() || surface != surface_) {
+        surface_ = surface;
+        surfaceStart_ = "{\"s\":";
+        appendString(surfaceStart_, surface);
+        surfaceStart_ += ",\"op\":\"";
+    }
+    buf_ += surfaceStart_;
     buf_ += op;
     buf_ += '"';
 }
@@ -169,13 +190,23 @@ void TraceWriter::line(const std::string& surface, const Stroke& s) {
     ++strokes_;
     if (!out_) return;
     begin(surface, "line");
-    num("x1", s.x1);
-    num("y1", s.y1);
-    num("x2", s.x2);
-    num("y2", s.y2);
-    integer("style", s.style);
-    integer("width", s.width);
-    integer("color", s.color);
+    // Keys and numbers only: made on the stack and added in one piece.
+    char row[7 * kNumberRoom];
+    char* p = put(row, ",\"x1\":");
+    p = putNumber(p, s.x1);
+    p = put(p, ",\"y1\":");
+    p = putNumber(p, s.y1);
+    p = put(p, ",\"x2\":");
+    p = putNumber(p, s.x2);
+    p = put(p, ",\"y2\":");
+    p = putNumber(p, s.y2);
+    p = put(p, ",\"style\":");
+    p = putInteger(p, s.style);
+    p = put(p, ",\"width\":");
+    p = putInteger(p, s.width);
+    p = put(p, ",\"color\":");
+    p = putInteger(p, s.color);
+    buf_.append(row, p);
     end();
 }
 

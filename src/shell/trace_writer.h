@@ -59,6 +59,7 @@ private:
 
     std::FILE* out_;
     std::string buf_;
+    std::string surface_, surfaceStart_;  // the last surface, and how its lines start
     long strokes_ = 0;
     int writeError_ = 0;
 };
