@@ -22,15 +22,16 @@ namespace {
 //
 // Fresh memory is dear: the first touch of a 2 MB block can cost more than
 // recording the ops that fill it. So a thread of the pool's own faults in
-// blocks ahead of use and keeps a reserve of them ready: one block where
-// canvases get a few thousand ops, the densest preview's worth where a
-// window can ask for that.
+// blocks before they are needed: as many in all as the densest record a
+// window may ask for (one block where canvases get a few thousand ops), and
+// always one more than the records hold, for a record that grows.
 class BlockPool {
 public:
     // The densest preview twice over (the one on show and the one coming),
     // with room to spare.
     static constexpr size_t kBlocks = 40;
     static constexpr size_t kMostReserve = kBlocks / 2;
+    static constexpr size_t kAhead = 1;
 
     BlockPool() {
         const size_t bytes = kBlocks * CanvasSlice::kBlockBytes;
@@ -56,7 +57,7 @@ public:
                 block = begin_ + next_++ * CanvasSlice::kBlockBytes;
             }
             if (block) {
-                if (warming_ && ready() < reserve_) wake_.notify_one();
+                if (warming_ && wanted()) wake_.notify_one();
                 return block;
             }
         }
@@ -72,8 +73,8 @@ public:
         std::lock_guard<std::mutex> lock(mutex_);
         free_.push_back(block);
     }
-    // Keeps at least `blocks` faulted in and free from now on; the first
-    // call starts the thread that keeps the reserve.
+    // Keeps at least `blocks` faulted in from now on; the first call
+    // starts the thread that does it.
     void keepReady(size_t blocks) {
 #ifdef MADV_POPULATE_WRITE
         std::lock_guard<std::mutex> lock(mutex_);
@@ -93,15 +94,19 @@ private:
     bool inRegion(const void* block) const {
         return begin_ && block >= begin_ && block < begin_ + kBlocks * CanvasSlice::kBlockBytes;
     }
-    // Faulted-in blocks that no record holds. Call with the lock.
+    // Call these with the lock. Blocks of the region touched so far, or
+    // being faulted in:
+    size_t touched() const { return std::max(warmed_, next_); }
+    // Those of them that no record holds:
     size_t ready() const { return free_.size() + (warmed_ > next_ ? warmed_ - next_ : 0); }
+    bool wanted() const { return touched() < kBlocks && (touched() < reserve_ || ready() < kAhead); }
 
     void warm() {
 #ifdef MADV_POPULATE_WRITE
         std::unique_lock<std::mutex> lock(mutex_);
         for (;;) {
-            wake_.wait(lock, [this] { return ready() < reserve_ && std::max(warmed_, next_) < kBlocks; });
-            const size_t i = std::max(warmed_, next_);
+            wake_.wait(lock, [this] { return wanted(); });
+            const size_t i = touched();
             warmed_ = i + 1;
             lock.unlock();
             // The kernel fills in page tables without touching what a
@@ -140,6 +145,8 @@ CanvasRecord::~CanvasRecord() {
 void CanvasRecord::newBlock() {
     static_assert(std::is_trivially_destructible_v<CanvasOp>, "ops are written into raw blocks");
     blocks_.push_back(static_cast<CanvasOp*>(pool().take()));
+    next_ = blocks_.back();
+    blockEnd_ = next_ + CanvasSlice::kPerBlock;
 }
 
 void CanvasRecord::addText(Single x, Single y, const std::string& text, const FontSpec& font) {

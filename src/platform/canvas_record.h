@@ -86,9 +86,8 @@ public:
 
 private:
     void add(const CanvasOp& op) {
-        const size_t at = size_ % CanvasSlice::kPerBlock;
-        if (at == 0) newBlock();
-        blocks_.back()[at] = op;
+        if (next_ == blockEnd_) newBlock();
+        *next_++ = op;
         ++size_;
     }
     void newBlock();
@@ -96,6 +95,8 @@ private:
     std::vector<CanvasOp*> blocks_;
     std::vector<std::shared_ptr<const PageText>> texts_;
     size_t size_ = 0;
+    CanvasOp* next_ = nullptr;  // where the next op goes in the last block
+    CanvasOp* blockEnd_ = nullptr;
 };
 
 } // namespace gp
