@@ -20,12 +20,17 @@ CanvasDevice::CanvasDevice(int pixelWidth, int pixelHeight, Single unitsWide, Si
              devicePixelRatio},
       back_(toQColor(backColor)),
       record_(std::make_shared<CanvasRecord>()),
+      mostOps_(mostOps),
       worker_([this](QImage image, RasterWorker::Target target) { workerDone(std::move(image), target); }) {
     shown_.image = blankImage(pixels_, scale_.dpr, back_);
     CanvasRecord::prepareMemory(mostOps);
 }
 
-CanvasDevice::~CanvasDevice() { worker_.stop(); }
+CanvasDevice::~CanvasDevice() {
+    worker_.stop();
+    record_.reset();
+    CanvasRecord::releaseMemory(mostOps_);
+}
 
 void CanvasDevice::line(const Stroke& s) { record_->addLine(s); }
 

@@ -63,6 +63,7 @@ private:
     CanvasScale scale_;
     QColor back_;
     std::shared_ptr<CanvasRecord> record_;
+    size_t mostOps_;
     std::uint64_t generation_ = 0;
     Shown shown_;
     RasterWorker::Target onScreen_;

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <mutex>
+#include <set>
 #include <new>
 #include <thread>
 
@@ -22,39 +23,47 @@ namespace {
 //
 // Fresh memory is dear: the first touch of a 2 MB block can cost more than
 // recording the ops that fill it. So a thread of the pool's own faults in
-// blocks before they are needed: as many in all as the densest record a
-// window may ask for (one block where canvases get a few thousand ops), and
-// always one more than the records hold, for a record that grows.
+// blocks before they are needed: as many in all as the densest record an
+// open window may ask for (one block where canvases get a few thousand
+// ops), and one more than the records hold, for a record that grows. When
+// the window that asked for the most closes, what no one asks for any more
+// goes back to the system.
 class BlockPool {
 public:
     // The densest preview twice over (the one on show and the one coming),
     // with room to spare.
     static constexpr size_t kBlocks = 40;
-    static constexpr size_t kMostReserve = kBlocks / 2;
+    static constexpr size_t kMostAsked = kBlocks / 2;
     static constexpr size_t kAhead = 1;
+    static constexpr size_t kBytes = CanvasSlice::kBlockBytes;
 
     BlockPool() {
-        const size_t bytes = kBlocks * CanvasSlice::kBlockBytes;
-        void* raw = mmap(nullptr, bytes + CanvasSlice::kBlockBytes, PROT_READ | PROT_WRITE,
+        void* raw = mmap(nullptr, (kBlocks + 1) * kBytes, PROT_READ | PROT_WRITE,
                          MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
         if (raw == MAP_FAILED) return;
         const auto at = reinterpret_cast<std::uintptr_t>(raw);
-        const std::uintptr_t mask = CanvasSlice::kBlockBytes - 1;
-        begin_ = reinterpret_cast<char*>((at + mask) & ~mask);
+        begin_ = reinterpret_cast<char*>((at + kBytes - 1) & ~(kBytes - 1));
 #ifdef MADV_HUGEPAGE
-        madvise(begin_, bytes, MADV_HUGEPAGE);
+        madvise(begin_, kBlocks * kBytes, MADV_HUGEPAGE);
 #endif
     }
 
     void* take() {
         {
             std::lock_guard<std::mutex> lock(mutex_);
-            void* block = nullptr;
-            if (!free_.empty()) {
-                block = free_.back();
-                free_.pop_back();
+            char* block = nullptr;
+            if (!warm_.empty()) {
+                block = warm_.back();
+                warm_.pop_back();
+            } else if (warmed_ > next_) {
+                block = begin_ + next_++ * kBytes;  // faulted in ahead, or being
+            } else if (!cold_.empty()) {
+                block = cold_.back();
+                cold_.pop_back();
+                ++resident_;
             } else if (begin_ && next_ < kBlocks) {
-                block = begin_ + next_++ * CanvasSlice::kBlockBytes;
+                block = begin_ + next_++ * kBytes;
+                ++resident_;
             }
             if (block) {
                 if (warming_ && wanted()) wake_.notify_one();
@@ -62,7 +71,7 @@ public:
             }
         }
         void* block = nullptr;
-        if (posix_memalign(&block, CanvasSlice::kBlockBytes, CanvasSlice::kBlockBytes) != 0) throw std::bad_alloc();
+        if (posix_memalign(&block, kBytes, kBytes) != 0) throw std::bad_alloc();
         return block;
     }
     void give(void* block) {
@@ -71,59 +80,89 @@ public:
             return;
         }
         std::lock_guard<std::mutex> lock(mutex_);
-        free_.push_back(block);
+        warm_.push_back(static_cast<char*>(block));
     }
-    // Keeps at least `blocks` faulted in from now on; the first call
-    // starts the thread that does it.
-    void keepReady(size_t blocks) {
-#ifdef MADV_POPULATE_WRITE
+
+    // A window that may ask for records of up to `blocks` opens; the first
+    // starts the thread that faults blocks in.
+    void ask(size_t blocks) {
         std::lock_guard<std::mutex> lock(mutex_);
-        if (!begin_) return;
-        reserve_ = std::max(reserve_, std::min(std::max(blocks, size_t(1)), kMostReserve));
-        if (!warming_) {
+        asks_.insert(std::clamp(blocks, size_t(1), kMostAsked));
+#ifdef MADV_POPULATE_WRITE
+        if (!warming_ && begin_) {
             warming_ = true;
             std::thread([this] { warm(); }).detach();
         }
         wake_.notify_one();
-#else
-        (void)blocks;
 #endif
+    }
+    // That window closes: free blocks beyond what the open ones ask for
+    // go back to the system.
+    void unask(size_t blocks) {
+        std::lock_guard<std::mutex> lock(mutex_);
+        const auto it = asks_.find(std::clamp(blocks, size_t(1), kMostAsked));
+        if (it != asks_.end()) asks_.erase(it);
+        const size_t inUse = resident_ - ready();
+        const size_t keep = std::max(asked(), inUse + (asked() > 0 ? kAhead : 0));
+        while (resident_ > keep && !warm_.empty()) {
+            char* block = warm_.back();
+            warm_.pop_back();
+            madvise(block, kBytes, MADV_DONTNEED);
+            cold_.push_back(block);
+            --resident_;
+        }
     }
 
 private:
     bool inRegion(const void* block) const {
-        return begin_ && block >= begin_ && block < begin_ + kBlocks * CanvasSlice::kBlockBytes;
+        return begin_ && block >= begin_ && block < begin_ + kBlocks * kBytes;
     }
-    // Call these with the lock. Blocks of the region touched so far, or
-    // being faulted in:
-    size_t touched() const { return std::max(warmed_, next_); }
-    // Those of them that no record holds:
-    size_t ready() const { return free_.size() + (warmed_ > next_ ? warmed_ - next_ : 0); }
-    bool wanted() const { return touched() < kBlocks && (touched() < reserve_ || ready() < kAhead); }
+    // Call these with the lock.
+    size_t asked() const { return asks_.empty() ? 0 : *asks_.rbegin(); }
+    // Faulted-in blocks that no record holds.
+    size_t ready() const { return warm_.size() + (warmed_ > next_ ? warmed_ - next_ : 0); }
+    bool wanted() const {
+        const bool more = !cold_.empty() || std::max(warmed_, next_) < kBlocks;
+        return more && asked() > 0 && (resident_ < asked() || ready() < kAhead);
+    }
 
     void warm() {
 #ifdef MADV_POPULATE_WRITE
         std::unique_lock<std::mutex> lock(mutex_);
         for (;;) {
             wake_.wait(lock, [this] { return wanted(); });
-            const size_t i = touched();
-            warmed_ = i + 1;
-            lock.unlock();
-            // The kernel fills in page tables without touching what a
-            // record may already be writing into the block.
-            madvise(begin_ + i * CanvasSlice::kBlockBytes, CanvasSlice::kBlockBytes, MADV_POPULATE_WRITE);
-            lock.lock();
+            ++resident_;
+            if (!cold_.empty()) {
+                // Out of every list while it is faulted in: no record gets it meanwhile.
+                char* block = cold_.back();
+                cold_.pop_back();
+                lock.unlock();
+                madvise(block, kBytes, MADV_POPULATE_WRITE);
+                lock.lock();
+                warm_.push_back(block);
+            } else {
+                // A record may take this one while it is faulted in: the
+                // kernel fills in page tables without touching what the
+                // record writes.
+                const size_t i = std::max(warmed_, next_);
+                warmed_ = i + 1;
+                lock.unlock();
+                madvise(begin_ + i * kBytes, kBytes, MADV_POPULATE_WRITE);
+                lock.lock();
+            }
         }
 #endif
     }
 
     std::mutex mutex_;
     std::condition_variable wake_;
-    std::vector<void*> free_;  // given back, faulted in
     char* begin_ = nullptr;
-    size_t next_ = 0;     // blocks [0, next_) have been handed out at least once
-    size_t warmed_ = 0;   // blocks [0, warmed_) have been faulted in ahead, or are being
-    size_t reserve_ = 0;
+    std::vector<char*> warm_;  // given back, faulted in
+    std::vector<char*> cold_;  // given back to the system
+    size_t next_ = 0;          // blocks [0, next_) of the region have been handed out at least once
+    size_t warmed_ = 0;        // blocks [0, warmed_) have been faulted in ahead, or are being
+    size_t resident_ = 0;      // blocks of the region faulted in, or being, and not given back
+    std::multiset<size_t> asks_;
     bool warming_ = false;
 };
 
@@ -134,9 +173,13 @@ BlockPool& pool() {
 
 } // namespace
 
-void CanvasRecord::prepareMemory(size_t ops) {
-    pool().keepReady((ops + CanvasSlice::kPerBlock - 1) / CanvasSlice::kPerBlock);
-}
+namespace {
+size_t blocksFor(size_t ops) { return (ops + CanvasSlice::kPerBlock - 1) / CanvasSlice::kPerBlock; }
+} // namespace
+
+void CanvasRecord::prepareMemory(size_t ops) { pool().ask(blocksFor(ops)); }
+
+void CanvasRecord::releaseMemory(size_t ops) { pool().unask(blocksFor(ops)); }
 
 CanvasRecord::~CanvasRecord() {
     for (CanvasOp* b : blocks_) pool().give(b);

@@ -77,10 +77,11 @@ public:
     void addText(Single x, Single y, const std::string& text, const FontSpec& font);
 
     size_t size() const { return size_; }
-    // Keeps blocks of records faulted in ahead of use, in the background,
-    // enough for a record of `ops` (one block at the least) beside those
-    // in use.
+    // A canvas that may get records of up to `ops` opens: blocks for them
+    // are faulted in ahead of use, in the background (one block at the
+    // least). releaseMemory says it has closed, its records gone.
     static void prepareMemory(size_t ops);
+    static void releaseMemory(size_t ops);
     // Only on the thread that adds ops.
     CanvasSlice slice(size_t from, size_t to) const;
 

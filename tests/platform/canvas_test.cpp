@@ -7,7 +7,10 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QPainter>
+#include <fstream>
 #include <functional>
+#include <memory>
+#include <string>
 
 #include "platform/canvas_device.h"
 #include "platform/qt_drawing.h"
@@ -273,4 +276,53 @@ TEST(LazyCanvas, ImageIsCompleteAtOnceAndClsOfAnEmptyCanvasIsBlank) {
     const QImage& blank = t.canvas.image();
     EXPECT_EQ(blank.pixel(0, 0), qRgb(255, 255, 255));
     EXPECT_EQ(blank.pixel(kW / 2, kH / 2), qRgb(255, 255, 255));
+}
+
+namespace {
+long residentKiB() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.rfind("VmRSS:", 0) == 0) return std::stol(line.substr(6));
+    return 0;
+}
+// Waits up to 5 s for the resident size to pass `atLeast` KiB.
+long waitForResident(long atLeast) {
+    QElapsedTimer t;
+    t.start();
+    long now = residentKiB();
+    while (now < atLeast && t.elapsed() < 5000) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        now = residentKiB();
+    }
+    return now;
+}
+} // namespace
+
+TEST(CanvasMemory, AWindowOfDensePreviewsKeepsItsMemoryReadyAndGivesItBackWhenItCloses) {
+    // A template's window has a million and a half strokes' worth faulted
+    // in before the first dense preview, records of that size reuse it, and
+    // none of it stays once the window is gone: opening and closing one
+    // template after another must not pile memory up.
+    constexpr size_t kDensest = 1'500'000;
+    constexpr long kReadyKiB = kDensest * sizeof(CanvasOp) / 1024;
+    const long before = residentKiB();
+    for (int window = 0; window < 2; ++window) {
+        {
+            CanvasDevice canvas(kW, kH, kUnitsW, kUnitsH, 0xFFFFFF, 1.0, kDensest);
+            const long ready = waitForResident(before + kReadyKiB * 9 / 10);
+            if (ready < before + kReadyKiB * 9 / 10) GTEST_SKIP() << "this system faults no memory in ahead";
+            DrawingSurface me(DrawingSurface::Kind::Canvas, "frmTest", kUnitsW, kUnitsH);
+            me.attach(&canvas);
+            long after[2];
+            for (long& resident : after) {
+                me.Cls();
+                for (size_t i = 0; i < kDensest; ++i) me.Line(i % 3000, 10, 20, i % 1800);
+                resident = residentKiB();
+            }
+            // What was ready, and the block kept ahead of a growing record.
+            EXPECT_LT(after[0], before + kReadyKiB + 6 * 1024) << "a dense record took far more than was ready";
+            EXPECT_LT(after[1], after[0] + kReadyKiB / 4) << "the second dense record did not reuse the first's memory";
+        }
+        EXPECT_LT(residentKiB(), before + 8 * 1024) << "window " << window << " kept its memory after closing";
+    }
 }
