@@ -72,12 +72,12 @@ fuzz: asan
 
 # Every benchmark of bench/; each module's figures go to
 # build/bench-results/*.json, and one table of every page kind is printed,
-# then the canvas against a bare QPainter loop and the table of the
-# window's stalls after a key or click.
+# then the canvas against a bare QPainter loop, what a trace adds to a
+# dense sheet, and the table of the window's stalls after a key or click.
 bench: build
 	@mkdir -p $(BUILD_DIR)/bench-results
 	@for b in $(BUILD_DIR)/bench/bench_*; do \
-	  case $$b in *bench_pages|*bench_keystroke|*bench_canvas_floor|*_autogen) continue;; esac; \
+	  case $$b in *bench_pages|*bench_keystroke|*bench_canvas_floor|*bench_trace|*_autogen) continue;; esac; \
 	  [ -x "$$b" ] || continue; \
 	  echo "running $$(basename $$b)"; \
 	  QT_QPA_PLATFORM=offscreen "$$b" --benchmark_out=$(BUILD_DIR)/bench-results/$$(basename $$b).json \
@@ -88,6 +88,10 @@ bench: build
 	@QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/bench/bench_canvas_floor \
 	  --benchmark_out=$(BUILD_DIR)/bench-results/bench_canvas_floor.json --benchmark_out_format=json 2>/dev/null | \
 	  sed -n '/^The canvas painting/,$$p'
+	@echo "running bench_trace"
+	@QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/bench/bench_trace \
+	  --benchmark_out=$(BUILD_DIR)/bench-results/bench_trace.json --benchmark_out_format=json 2>/dev/null | \
+	  sed -n '/^The dense triangle sheet/,$$p'
 	@echo "running bench_keystroke"
 	@QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/bench/bench_keystroke \
 	  --benchmark_out=$(BUILD_DIR)/bench-results/bench_keystroke.json --benchmark_out_format=json 2>/dev/null | \

@@ -12,6 +12,7 @@
 #include <map>
 
 #include "all_forms.h"
+#include "bench_support.h"
 #include "platform/canvas_device.h"
 #include "platform/qt_drawing.h"
 #include "shell/script/scripted_session.h"
@@ -62,8 +63,6 @@ const Recorded& recorded(const Preview& p) {
                d.backColor < 0 ? 0xFFFFFF : d.backColor};
     return cache.emplace(p.form, std::move(r)).first->second;
 }
-
-std::map<std::string, double> msOf;
 
 void Canvas(benchmark::State& state, const Preview& p) {
     const Recorded& r = recorded(p);
@@ -119,19 +118,6 @@ void Floor(benchmark::State& state, const Preview& p) {
     state.counters["strokes"] = static_cast<double>(r.page.ops.size());
 }
 
-class Table : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override {
-        ConsoleReporter::ReportRuns(runs);
-        // The median of the repetitions, where there are several.
-        for (const Run& run : runs) {
-            if (run.error_occurred) continue;
-            const bool median = run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
-            if (median || run.run_type == Run::RT_Iteration) msOf[run.run_name.function_name] = run.GetAdjustedCPUTime();
-        }
-    }
-};
-
 } // namespace
 
 int main(int argc, char** argv) {
@@ -145,8 +131,9 @@ int main(int argc, char** argv) {
             ->Unit(benchmark::kMillisecond)->Repetitions(5);
     }
     benchmark::Initialize(&argc, argv);
-    Table table;
+    gp::bench::MedianCpuTimes table;
     benchmark::RunSpecifiedBenchmarks(&table);
+    const std::map<std::string, double>& msOf = table.ms;
     benchmark::Shutdown();
 
     std::printf("\nThe canvas painting a preview against a bare QPainter loop.\n\n"

@@ -8,7 +8,9 @@
 #include <QGuiApplication>
 #include <QTemporaryDir>
 #include <cstdlib>
+#include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "all_forms.h"
@@ -86,6 +88,24 @@ private:
     FaultLog log_;
     std::vector<std::unique_ptr<CanvasDevice>> canvases_;
     std::unique_ptr<ScriptedSession> session_;
+};
+
+// Prints every run as the console does and keeps each benchmark's CPU time
+// in ms (the median of its repetitions, where it has several), for a table
+// of ratios at the end.
+class MedianCpuTimes : public benchmark::ConsoleReporter {
+public:
+    std::map<std::string, double> ms;
+
+    void ReportRuns(const std::vector<Run>& runs) override {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs) {
+            if (run.error_occurred) continue;
+            const bool median = run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
+            if (median || run.run_type == Run::RT_Iteration)
+                ms[run.run_name.function_name] = run.GetAdjustedCPUTime();
+        }
+    }
 };
 
 // Fonts and images need a GUI application, with no screen.
