@@ -80,6 +80,15 @@ char* putNumber(char* at, Single v) {
     *at++ = '.';
     return std::copy_n(digits + whole, n - whole, at);
 }
+// A key, then its value.
+template <size_t N>
+char* field(char* at, const char (&key)[N], Single v) {
+    return putNumber(put(at, key), v);
+}
+template <size_t N>
+char* field(char* at, const char (&key)[N], long v) {
+    return putInteger(put(at, key), v);
+}
 } // namespace
 
 void TraceWriter::appendNumber(std::string& out, Single v) {
@@ -192,20 +201,13 @@ void TraceWriter::line(const std::string& surface, const Stroke& s) {
     begin(surface, "line");
     // Keys and numbers only: made on the stack and added in one piece.
     char row[7 * kNumberRoom];
-    char* p = put(row, ",\"x1\":");
-    p = putNumber(p, s.x1);
-    p = put(p, ",\"y1\":");
-    p = putNumber(p, s.y1);
-    p = put(p, ",\"x2\":");
-    p = putNumber(p, s.x2);
-    p = put(p, ",\"y2\":");
-    p = putNumber(p, s.y2);
-    p = put(p, ",\"style\":");
-    p = putInteger(p, s.style);
-    p = put(p, ",\"width\":");
-    p = putInteger(p, s.width);
-    p = put(p, ",\"color\":");
-    p = putInteger(p, s.color);
+    char* p = field(row, ",\"x1\":", s.x1);
+    p = field(p, ",\"y1\":", s.y1);
+    p = field(p, ",\"x2\":", s.x2);
+    p = field(p, ",\"y2\":", s.y2);
+    p = field(p, ",\"style\":", static_cast<long>(s.style));
+    p = field(p, ",\"width\":", static_cast<long>(s.width));
+    p = field(p, ",\"color\":", s.color);
     buf_.append(row, p);
     end();
 }
