@@ -1,7 +1,5 @@
 #include "platform/print_job.h"
 
-#include <cups/cups.h>
-
 #include <QDir>
 #include <algorithm>
 #include <QFileInfo>
@@ -9,6 +7,7 @@
 #include <QPrinterInfo>
 #include <QTemporaryFile>
 
+#include "platform/cups_library.h"
 #include "platform/pdf_sheets.h"
 
 namespace gp {
@@ -79,14 +78,18 @@ OutputResult printSheet(const Page& page, Single printableWidth, Single printabl
     if (QFileInfo(file.fileName()).size() == 0)
         return OutputResult::failed(what, "the sheet could not be drawn for it");
 
+    std::string error;
+    const CupsLibrary* cups = CupsLibrary::get(error);
+    if (!cups) return OutputResult::failed(what, error);
     cups_option_t* options = nullptr;
-    int count = cupsAddOption("media", layout.pageSize().key().toUtf8().constData(), 0, &options);
+    int count = cups->addOption("media", layout.pageSize().key().toUtf8().constData(), 0, &options);
     if (target.copies > 1)
-        count = cupsAddOption("copies", QByteArray::number(target.copies).constData(), count, &options);
-    const int job = cupsPrintFile(cupsQueueName(target.queue).constData(), QFile::encodeName(file.fileName()).constData(),
-                                  name.toUtf8().constData(), count, options);
-    cupsFreeOptions(count, options);
-    if (job == 0) return OutputResult::failed(what, cupsLastErrorString());
+        count = cups->addOption("copies", QByteArray::number(target.copies).constData(), count, &options);
+    const int job = cups->printFile(cupsQueueName(target.queue).constData(),
+                                    QFile::encodeName(file.fileName()).constData(), name.toUtf8().constData(),
+                                    count, options);
+    cups->freeOptions(count, options);
+    if (job == 0) return OutputResult::failed(what, cups->lastErrorString());
     return OutputResult::written();
 }
 
