@@ -31,9 +31,9 @@ Documents folder. A batch mode replays scripts of clicks and typing.")
 # versions are those it was linked against. What it loads at run time
 # without linking is named here: the Qt platform plugins that open a window
 # (only recommended by libqt6gui6, so a system that skips recommends would
-# have no window), and metric twins of Arial and Times New Roman, whose
-# widths place the text on the sheets.
+# have no window), libcups2, which a print job loads, and metric twins of
+# Arial and Times New Roman, whose widths place the text on the sheets.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, fonts-liberation2")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, libcups2, fonts-liberation2")
 
 include(CPack)

@@ -48,7 +48,7 @@ depends=$(field Depends)
 echo "Depends: $depends"
 # Whole package names, versions and alternatives set apart.
 names=$(echo "$depends" | tr ',|' '\n\n' | sed 's/(.*)//; s/[[:space:]]//g')
-for lib in libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6 libqt6printsupport6 qt6-qpa-plugins; do
+for lib in libc6 libstdc++6 libqt6core6 libqt6gui6 libqt6widgets6 libqt6printsupport6 qt6-qpa-plugins libcups2; do
     grep -qxF "$lib" <<<"$names" || fail "Depends does not name $lib"
 done
 
