@@ -102,6 +102,10 @@ public:
         std::lock_guard<std::mutex> lock(mutex_);
         const auto it = asks_.find(std::clamp(blocks, size_t(1), kMostAsked));
         if (it != asks_.end()) asks_.erase(it);
+        // Blocks faulted in ahead that no record has taken are free too,
+        // but for the last, which the warmer may be faulting in right now.
+        const size_t settled = faulting_ ? warmed_ - 1 : warmed_;
+        for (; next_ < settled; ++next_) warm_.push_back(begin_ + next_ * kBytes);
         const size_t inUse = resident_ - ready();
         const size_t keep = std::max(asked(), inUse + (asked() > 0 ? kAhead : 0));
         while (resident_ > keep && !warm_.empty()) {
@@ -146,9 +150,11 @@ private:
                 // record writes.
                 const size_t i = std::max(warmed_, next_);
                 warmed_ = i + 1;
+                faulting_ = begin_ + i * kBytes;
                 lock.unlock();
-                madvise(begin_ + i * kBytes, kBytes, MADV_POPULATE_WRITE);
+                madvise(faulting_, kBytes, MADV_POPULATE_WRITE);
                 lock.lock();
+                faulting_ = nullptr;
             }
         }
 #endif
@@ -162,6 +168,7 @@ private:
     size_t next_ = 0;          // blocks [0, next_) of the region have been handed out at least once
     size_t warmed_ = 0;        // blocks [0, warmed_) have been faulted in ahead, or are being
     size_t resident_ = 0;      // blocks of the region faulted in, or being, and not given back
+    char* faulting_ = nullptr;  // block warmed_ - 1 while the warmer faults it in
     std::multiset<size_t> asks_;
     bool warming_ = false;
 };
