@@ -34,6 +34,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
+        if (view_.detached_) return;  // its form is gone
         QPainter p(this);
         // The newest finished image: a big preview still being painted
         // shows when it is done, the one before it stays until then.
@@ -160,8 +161,10 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
             a.index = c->index();
             dispatch(c->name(), Event::LostFocus, a);
         }
-    } else if (c->kind() == ControlKind::Label) {
-        auto* me = static_cast<QMouseEvent*>(event);
+    } else if (c->kind() == ControlKind::Label &&
+               (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease)) {
+        // A label gets every kind of event; only these two are mouse events.
+        const auto* me = static_cast<QMouseEvent*>(event);
         if (event->type() == QEvent::MouseButtonPress) {
             EventArgs a;
             a.index = c->index();
