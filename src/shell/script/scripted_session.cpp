@@ -229,6 +229,7 @@ void ScriptedSession::formHidden(Form& form) {
 
 void ScriptedSession::formUnloading(Form& form) {
     formHidden(form);
+    if (formUnloadingHook_) formUnloadingHook_(form);
     form.setObserver(nullptr);
     // The canvas goes with the form; its log device is kept, unattached, so
     // nothing dangles while the form's last handler unwinds.

@@ -48,6 +48,9 @@ public:
     // Called with every form as it loads, after the session's own devices
     // are attached: a caller's extra devices go here.
     void onFormLoaded(std::function<void(Form&)> hook) { formLoadedHook_ = std::move(hook); }
+    // Called with every form as it unloads, before it is gone: a window a
+    // caller keeps of it lets go of it here, as the windowed host does.
+    void onFormUnloading(std::function<void(Form&)> hook) { formUnloadingHook_ = std::move(hook); }
 
     // Shows the program's start-up form.
     void start();
@@ -121,6 +124,7 @@ private:
     std::unique_ptr<FormSet> forms_;
     std::vector<std::unique_ptr<SurfaceLog>> canvasLogs_;
     std::function<void(Form&)> formLoadedHook_;
+    std::function<void(Form&)> formUnloadingHook_;
     std::vector<Form*> shown_;  // the forms on show, the one with the input last
     std::deque<Answer> answers_;
     std::vector<std::string> misfits_;  // answers a dialog could not take
