@@ -11,7 +11,9 @@ TEST(ExplodeOpening, DesignAndTheRunnerAtHalfSizeCutToTenths) {
     int red = 0;
     for (const auto& c : d.controls) {
         red += c.kind == ControlKind::Line && c.foreColor == RGB(255, 0, 0);  // 14 ticks on each axis
-        if (c.name == "txtX" && c.index == 10) EXPECT_EQ(c.left, 6720);     // 1920 + 480 * 10
+        if (c.name == "txtX" && c.index == 10) {
+            EXPECT_EQ(c.left, 6720);  // 1920 + 480 * 10
+        }
     }
     EXPECT_EQ(red, 28);
     Explode e;
