@@ -12,13 +12,7 @@
 namespace gp {
 
 namespace {
-using Key = std::tuple<std::string, std::string, int>;
-
-const char* eventName(int e) {
-    static const char* names[] = {"Click",   "Change", "LostFocus", "MouseDown", "MouseMove",
-                                  "KeyDown", "Timer",  "Load",      "Activate",  "QueryUnload"};
-    return e >= 0 && e < 10 ? names[e] : "?";
-}
+using Key = std::tuple<std::string, std::string, Event>;
 
 // Written out by a static's destructor, so a run that ends through exit()
 // (an End in a handler, a refused script line) is counted too.
@@ -43,7 +37,7 @@ Counts& counts() {
 } // namespace
 
 void countReach(const std::string& form, const std::string& control, Event event) {
-    ++counts().counts[Key{form, control, static_cast<int>(event)}];
+    ++counts().counts[Key{form, control, event}];
 }
 
 } // namespace gp
