@@ -15,34 +15,40 @@ constexpr int kSlack = 60;
 
 int right(const ControlDesign& c) { return c.left + c.width; }
 int bottom(const ControlDesign& c) { return c.top + c.height; }
-// On one row: the middle of one lies within the other's height. A label
-// that only grazes a box's top edge heads the row above it.
+// In line: the middle of one lies within the other's span. A label that
+// only grazes a box's top edge heads the row above it.
 bool within(int v, int from, int to) { return from <= v && v <= to; }
-bool sameRow(const ControlDesign& a, const ControlDesign& b) {
-    return within(a.top + a.height / 2, b.top, bottom(b)) || within(b.top + b.height / 2, a.top, bottom(a));
-}
-bool sameColumn(const ControlDesign& a, const ControlDesign& b) {
-    return within(a.left + a.width / 2, b.left, right(b)) || within(b.left + b.width / 2, a.left, right(a));
+bool overlapping(int startA, int lengthA, int startB, int lengthB) {
+    return within(startA + lengthA / 2, startB, startB + lengthB) ||
+           within(startB + lengthB / 2, startA, startA + lengthA);
 }
 
-const ControlDesign* labelBeside(const FormDesign& form, const ControlDesign& box) {
-    const ControlDesign* best = nullptr;
-    for (const ControlDesign& l : form.controls) {
-        if (l.kind != ControlKind::Label || l.container != box.container || !sameRow(l, box)) continue;
-        const int gap = box.left - right(l);
-        if (gap < -kSlack || gap > kBesideGap) continue;
-        if (!best || right(l) > right(*best)) best = &l;
-    }
-    return best;
-}
+// The two ways a label heads a box: beside it on its row, or above it in
+// its column. `end` is where a label stops towards the box, `start` where
+// the box begins.
+struct Approach {
+    bool (*inLine)(const ControlDesign& label, const ControlDesign& box);
+    int (*end)(const ControlDesign& c);
+    int (*start)(const ControlDesign& c);
+    int gap;
+};
+const Approach kBeside{[](const ControlDesign& l, const ControlDesign& b) {
+                           return overlapping(l.top, l.height, b.top, b.height);
+                       },
+                       right, [](const ControlDesign& c) { return c.left; }, kBesideGap};
+const Approach kAbove{[](const ControlDesign& l, const ControlDesign& b) {
+                          return overlapping(l.left, l.width, b.left, b.width);
+                      },
+                      bottom, [](const ControlDesign& c) { return c.top; }, kAboveGap};
 
-const ControlDesign* labelAbove(const FormDesign& form, const ControlDesign& box) {
+// The label in line with `box` that ends nearest before it, within the gap.
+const ControlDesign* nearestLabel(const FormDesign& form, const ControlDesign& box, const Approach& a) {
     const ControlDesign* best = nullptr;
     for (const ControlDesign& l : form.controls) {
-        if (l.kind != ControlKind::Label || l.container != box.container || !sameColumn(l, box)) continue;
-        const int gap = box.top - bottom(l);
-        if (gap < -kSlack || gap > kAboveGap) continue;
-        if (!best || bottom(l) > bottom(*best)) best = &l;
+        if (l.kind != ControlKind::Label || l.container != box.container || !a.inLine(l, box)) continue;
+        const int gap = a.start(box) - a.end(l);
+        if (gap < -kSlack || gap > a.gap) continue;
+        if (!best || a.end(l) > a.end(*best)) best = &l;
     }
     return best;
 }
@@ -60,8 +66,8 @@ QString spoken(const std::string& caption) {
 
 QString accessibleNameOf(const FormDesign& form, const ControlDesign& box) {
     if (!box.accessibleName.empty()) return QString::fromStdString(box.accessibleName);
-    const ControlDesign* label = labelBeside(form, box);
-    if (!label) label = labelAbove(form, box);
+    const ControlDesign* label = nearestLabel(form, box, kBeside);
+    if (!label) label = nearestLabel(form, box, kAbove);
     return label ? spoken(label->caption) : QString();
 }
 
