@@ -57,7 +57,6 @@ QWidget* FormView::buildControl(const ControlDesign& d, Control& c, QWidget* par
         connect(e, &QLineEdit::textEdited, this, [this, &c](const QString& t) {
             app_.guarded(form_, [&] { static_cast<TextBox&>(c).userEdit(t.toStdString()); });
             refreshCanvas();
-            describeCanvas();
         });
         e->setAccessibleName(accessibleNameOf(form_.design(), d));
         e->installEventFilter(this);
