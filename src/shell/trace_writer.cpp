@@ -34,7 +34,7 @@ void TraceWriter::flush() {
 }
 
 namespace {
-// Room for any number writeNumber or to_chars writes, with its key.
+// Room for any number putNumber or putInteger writes, with its key.
 constexpr size_t kNumberRoom = 48;
 
 template <size_t N>
